@@ -1,0 +1,15 @@
+# The warnings and sanitizers that every target of ours is built with. Warnings are errors.
+add_library(zorve_opciones INTERFACE)
+target_compile_options(zorve_opciones INTERFACE
+  -Wall -Wextra -Wno-missing-field-initializers -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
+  -Wcast-qual -Wformat=2 -Wundef -Werror -fno-common -fvisibility=hidden)
+target_include_directories(zorve_opciones INTERFACE ${PROJECT_SOURCE_DIR}/Sources)
+if(ZORVE_SANITIZE)
+  target_compile_options(zorve_opciones INTERFACE
+    -fsanitize=${ZORVE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(zorve_opciones INTERFACE -fsanitize=${ZORVE_SANITIZE})
+endif()
+# Sanitized objects confuse g++'s flow analysis: these two warn there about code that is right.
+if(ZORVE_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(zorve_opciones INTERFACE -Wno-maybe-uninitialized -Wno-tsan)
+endif()

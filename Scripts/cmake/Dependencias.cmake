@@ -1,0 +1,15 @@
+# The libraries that the portable layers use. RapidJSON and CLI11 are headers only.
+find_package(Threads REQUIRED)
+find_package(simdjson REQUIRED)
+find_path(RAPIDJSON_INCLUDE rapidjson/reader.h REQUIRED)
+find_path(CLI11_INCLUDE CLI/CLI.hpp REQUIRED)
+find_path(UTF8PROC_INCLUDE utf8proc.h REQUIRED)
+find_library(UTF8PROC_LIBRARY utf8proc REQUIRED)
+
+add_library(zorve_rapidjson INTERFACE)
+target_include_directories(zorve_rapidjson SYSTEM INTERFACE ${RAPIDJSON_INCLUDE})
+add_library(zorve_cli11 INTERFACE)
+target_include_directories(zorve_cli11 SYSTEM INTERFACE ${CLI11_INCLUDE})
+add_library(zorve_utf8proc INTERFACE)
+target_include_directories(zorve_utf8proc SYSTEM INTERFACE ${UTF8PROC_INCLUDE})
+target_link_libraries(zorve_utf8proc INTERFACE ${UTF8PROC_LIBRARY})

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zorve {
+
+/// Texts are UTF-8. Bytes that are no UTF-8 stand for themselves: they are no white space, each is one
+/// character, and they equal only themselves.
+
+/// `texto` without Unicode white space and line breaks at both ends.
+[[nodiscard]] std::string_view recortar(std::string_view texto);
+
+/// The pieces between runs of Unicode white space; empty pieces dropped.
+[[nodiscard]] std::vector<std::string_view> palabras(std::string_view texto);
+
+/// The first `cuantos` user-perceived characters (extended grapheme clusters, UAX #29). Whole if there are
+/// fewer.
+[[nodiscard]] std::string_view primerosCaracteres(std::string_view texto, std::size_t cuantos);
+
+/// How "I" and "İ" fold: Turkish and Azeri have rules of their own.
+enum class ReglaDePlegado : unsigned char { general, turca };
+
+/// The rule for a POSIX locale name ("tr_TR.UTF-8", "az", …).
+[[nodiscard]] ReglaDePlegado reglaDe(std::string_view local);
+
+/// Folds case and accents for searching: canonical decomposition, full case folding, non-spacing marks
+/// dropped after bases below U+0510 (Latin, Greek, Cyrillic), recomposed. So "É" is "e", "Ñ" is "n", "ß" is
+/// "ss".
+[[nodiscard]] std::string plegar(std::string_view texto, ReglaDePlegado regla);
+
+/// `texto` with each byte that is no part of valid UTF-8 replaced by U+FFFD.
+[[nodiscard]] std::string conUtf8Valido(std::string_view texto);
+
+}  // namespace zorve
