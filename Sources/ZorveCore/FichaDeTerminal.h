@@ -1,0 +1,34 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zorve {
+
+/// Everything that tells one Linux terminal from another.
+struct FichaDeTerminal {
+  /// Saved as the person's choice ("org.kde.konsole").
+  std::string identificador;
+  /// Shown to people.
+  std::string nombre;
+  /// The file name of its desktop entry.
+  std::string entradaDeEscritorio;
+  /// Its executables' names, the preferred one first.
+  std::vector<std::string> programas;
+  /// What follows the executable's name; the words of the command to run come after them.
+  std::vector<std::string> argumentos;
+  /// The names of the processes that host its shells, as `ps -o comm=` cuts them (15 characters).
+  std::vector<std::string> procesos;
+  /// The words of the command arrive as one text, quoted for a shell.
+  bool unSoloTexto = false;
+};
+
+/// The known Linux terminals, in the order in which they are listed. Any thread.
+[[nodiscard]] std::span<FichaDeTerminal const> fichasDeLinux();
+
+/// The row with this identifier, ignoring case, or null.
+[[nodiscard]] FichaDeTerminal const* fichaDeLinux(std::string_view identificador);
+
+}  // namespace zorve

@@ -1,0 +1,49 @@
+#include "ZorveCore/TerminalDeLinux.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "ZorveCore/Escape.h"
+
+namespace zorve {
+
+namespace {
+
+std::string_view nombreBase(std::string_view ruta) {
+  auto const barra = ruta.rfind('/');
+  return barra == std::string_view::npos ? ruta : ruta.substr(barra + 1);
+}
+
+}  // namespace
+
+TerminalDeLinux::TerminalDeLinux(FichaDeTerminal const& ficha, AplicacionesInstaladas const& aplicaciones,
+                                 std::string rutaDelAyudante)
+    : ficha_{ficha}, aplicaciones_{aplicaciones}, rutaDelAyudante_{std::move(rutaDelAyudante)} {}
+
+std::string TerminalDeLinux::identificador() const { return ficha_.identificador; }
+
+std::string TerminalDeLinux::nombre() const { return ficha_.nombre; }
+
+std::string TerminalDeLinux::nombreDelBundle() const { return ficha_.entradaDeEscritorio; }
+
+bool TerminalDeLinux::puedeEnfocar() const { return false; }
+
+bool TerminalDeLinux::estaInstalada() const {
+  return aplicaciones_.hay(ficha_.identificador) ||
+         std::ranges::any_of(ficha_.programas,
+                             [this](std::string const& programa) { return aplicaciones_.hay(programa); });
+}
+
+bool TerminalDeLinux::hospeda(std::string_view command) const {
+  return std::ranges::find(ficha_.procesos, nombreBase(command)) != ficha_.procesos.end();
+}
+
+PlanDeApertura TerminalDeLinux::planParaAbrir(std::string const& cwd, std::string const& comando) const {
+  return std::vector{ComandoDeApertura{rutaDelAyudante_, {"open", ficha_.identificador, cwd, comando}}};
+}
+
+std::expected<PlanDeApertura, IndexError> TerminalDeLinux::planParaEnfocar(std::string const& tty) const {
+  return NoSePuedeEnfocar{ttyCorto(tty)};
+}
+
+}  // namespace zorve

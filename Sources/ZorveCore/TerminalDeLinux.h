@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ZorveCore/AplicacionesInstaladas.h"
+#include "ZorveCore/FichaDeTerminal.h"
+#include "ZorveCore/Terminal.h"
+
+namespace zorve {
+
+/// A Linux terminal, driven by the helper executable: its plans are one command each, that runs the helper
+/// with the terminal's identifier and everything else as separate arguments.
+class TerminalDeLinux final : public Terminal {
+ public:
+  /// Both references outlive the driver.
+  TerminalDeLinux(FichaDeTerminal const& ficha, AplicacionesInstaladas const& aplicaciones,
+                  std::string rutaDelAyudante);
+
+  [[nodiscard]] std::string identificador() const override;
+  [[nodiscard]] std::string nombre() const override;
+  /// The desktop entry's file name.
+  [[nodiscard]] std::string nombreDelBundle() const override;
+  [[nodiscard]] bool puedeEnfocar() const override;
+  /// Whether the identifier or one of the executables is known to the system.
+  [[nodiscard]] bool estaInstalada() const override;
+  /// Whether the base name of `command` is one of the terminal's processes.
+  [[nodiscard]] bool hospeda(std::string_view command) const override;
+  [[nodiscard]] PlanDeApertura planParaAbrir(std::string const& cwd,
+                                             std::string const& comando) const override;
+  [[nodiscard]] std::expected<PlanDeApertura, IndexError> planParaEnfocar(
+      std::string const& tty) const override;
+
+ private:
+  FichaDeTerminal const& ficha_;
+  AplicacionesInstaladas const& aplicaciones_;
+  std::string rutaDelAyudante_;
+};
+
+}  // namespace zorve
