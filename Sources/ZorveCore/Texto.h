@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +31,20 @@ enum class ReglaDePlegado : unsigned char { general, turca };
 /// dropped after bases below U+0510 (Latin, Greek, Cyrillic), recomposed. So "É" is "e", "Ñ" is "n", "ß" is
 /// "ss".
 [[nodiscard]] std::string plegar(std::string_view texto, ReglaDePlegado regla);
+
+/// The same, appended to `destino`, whose memory can be used again and again.
+void agregarPlegado(std::string& destino, std::string_view texto, ReglaDePlegado regla);
+
+/// Whether every byte is below 0x80.
+[[nodiscard]] bool esAscii(std::string_view texto);
+
+/// One character at the start of `texto` (which is not empty): its code point, or -1 for a byte that is no
+/// UTF-8, and how many bytes it takes.
+struct PuntoDeCodigo {
+  std::int32_t valor = -1;
+  std::size_t bytes = 1;
+};
+[[nodiscard]] PuntoDeCodigo puntoAlInicio(std::string_view texto);
 
 /// `texto` with each byte that is no part of valid UTF-8 replaced by U+FFFD.
 [[nodiscard]] std::string conUtf8Valido(std::string_view texto);

@@ -1,0 +1,142 @@
+#include "ZorveCore/Texto.h"
+
+#include <utf8proc.h>
+
+#include <algorithm>
+
+namespace zorve {
+
+namespace {
+
+constexpr std::string_view reemplazo = "\xEF\xBF\xBD";
+
+constexpr bool esByteAscii(char byte) { return static_cast<unsigned char>(byte) < 0x80; }
+
+constexpr bool esBlanco(std::int32_t punto) {
+  if (punto < 0x80) return punto == ' ' || (punto >= '\t' && punto <= '\r');
+  return punto == 0x85 || punto == 0xA0 || punto == 0x1680 || (punto >= 0x2000 && punto <= 0x200A) ||
+         punto == 0x2028 || punto == 0x2029 || punto == 0x202F || punto == 0x205F || punto == 0x3000;
+}
+
+std::size_t blancosAlInicio(std::string_view texto) {
+  std::size_t pasados = 0;
+  while (pasados < texto.size()) {
+    auto const [punto, bytes] = puntoAlInicio(texto.substr(pasados));
+    if (!esBlanco(punto)) break;
+    pasados += bytes;
+  }
+  return pasados;
+}
+
+std::size_t noBlancosAlInicio(std::string_view texto) {
+  std::size_t pasados = 0;
+  while (pasados < texto.size()) {
+    auto const [punto, bytes] = puntoAlInicio(texto.substr(pasados));
+    if (esBlanco(punto)) break;
+    pasados += bytes;
+  }
+  return pasados;
+}
+
+std::size_t bytesDelUltimo(std::string_view texto) {
+  for (std::size_t bytes = 2; bytes <= std::min<std::size_t>(4, texto.size()); ++bytes) {
+    auto const cola = texto.substr(texto.size() - bytes);
+    if (auto const inicio = puntoAlInicio(cola); inicio.valor >= 0 && inicio.bytes == bytes) return bytes;
+  }
+  return 1;
+}
+
+bool seSeparan(std::int32_t antes, std::int32_t despues, utf8proc_int32_t& estado) {
+  if (antes < 0 || despues < 0) {
+    estado = 0;
+    return true;
+  }
+  return utf8proc_grapheme_break_stateful(antes, despues, &estado) != 0;
+}
+
+bool igualSinCaja(std::string_view texto, std::string_view minusculas) {
+  return std::ranges::equal(texto, minusculas, {},
+                            [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; });
+}
+
+}  // namespace
+
+bool esAscii(std::string_view texto) {
+  constexpr std::size_t bloque = 64;
+  while (texto.size() >= bloque) {
+    unsigned char junto = 0;
+    for (std::size_t i = 0; i < bloque; ++i) junto |= static_cast<unsigned char>(texto[i]);
+    if (junto >= 0x80) return false;
+    texto.remove_prefix(bloque);
+  }
+  return std::ranges::all_of(texto, [](char byte) { return esByteAscii(byte); });
+}
+
+PuntoDeCodigo puntoAlInicio(std::string_view texto) {
+  if (esByteAscii(texto.front())) return {texto.front(), 1};
+  utf8proc_int32_t punto = -1;
+  auto const bytes =
+      utf8proc_iterate(reinterpret_cast<utf8proc_uint8_t const*>(texto.data()),
+                       static_cast<utf8proc_ssize_t>(std::min<std::size_t>(texto.size(), 4)), &punto);
+  if (bytes <= 0) return {-1, 1};
+  return {punto, static_cast<std::size_t>(bytes)};
+}
+
+std::string_view recortar(std::string_view texto) {
+  texto.remove_prefix(blancosAlInicio(texto));
+  while (!texto.empty()) {
+    auto const bytes = bytesDelUltimo(texto);
+    if (!esBlanco(puntoAlInicio(texto.substr(texto.size() - bytes)).valor)) break;
+    texto.remove_suffix(bytes);
+  }
+  return texto;
+}
+
+std::vector<std::string_view> palabras(std::string_view texto) {
+  std::vector<std::string_view> piezas;
+  texto.remove_prefix(blancosAlInicio(texto));
+  while (!texto.empty()) {
+    auto const largo = noBlancosAlInicio(texto);
+    piezas.push_back(texto.substr(0, largo));
+    texto.remove_prefix(largo);
+    texto.remove_prefix(blancosAlInicio(texto));
+  }
+  return piezas;
+}
+
+std::string_view primerosCaracteres(std::string_view texto, std::size_t cuantos) {
+  if (texto.size() <= cuantos) return texto;
+  std::size_t posicion = 0;
+  std::size_t contados = 0;
+  std::int32_t anterior = -1;
+  utf8proc_int32_t estado = 0;
+  while (posicion < texto.size()) {
+    auto const [punto, bytes] = puntoAlInicio(texto.substr(posicion));
+    if (posicion == 0 || seSeparan(anterior, punto, estado)) {
+      if (contados == cuantos) return texto.substr(0, posicion);
+      ++contados;
+    }
+    anterior = punto;
+    posicion += bytes;
+  }
+  return texto;
+}
+
+ReglaDePlegado reglaDe(std::string_view local) {
+  auto const idioma = local.substr(0, local.find_first_of("_.-@"));
+  bool const turca = igualSinCaja(idioma, "tr") || igualSinCaja(idioma, "az");
+  return turca ? ReglaDePlegado::turca : ReglaDePlegado::general;
+}
+
+std::string conUtf8Valido(std::string_view texto) {
+  std::string valido;
+  valido.reserve(texto.size());
+  while (!texto.empty()) {
+    auto const [punto, bytes] = puntoAlInicio(texto);
+    valido += punto < 0 ? reemplazo : texto.substr(0, bytes);
+    texto.remove_prefix(bytes);
+  }
+  return valido;
+}
+
+}  // namespace zorve
