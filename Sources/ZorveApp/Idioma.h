@@ -2,10 +2,13 @@
 
 #include <array>
 #include <cstdint>
+#include <expected>
 #include <string_view>
 #include <utility>
 
+#include "ZorveApp/Observable.h"
 #include "ZorveCore/Enumeracion.h"
+#include "ZorveCore/Preferencias.h"
 
 namespace zorve {
 
@@ -20,5 +23,28 @@ struct Casos<Idioma> {
 
 /// The language that a stored text selects: Spanish for exactly "es", English for anything else or nothing.
 [[nodiscard]] Idioma idiomaGuardado(std::string_view texto);
+
+/// A language's own name, the same whatever the interface language: "English", "Español".
+[[nodiscard]] std::string_view nombrePropio(Idioma idioma);
+
+/// The language in force. One object for the whole program, built by its main over the user's settings.
+/// Main thread only.
+class PreferenciaDeIdioma {
+ public:
+  static constexpr std::string_view clave = "zorve.idioma";
+
+  /// Reads the stored language. `preferencias` outlives this object.
+  explicit PreferenciaDeIdioma(Preferencias& preferencias);
+
+  [[nodiscard]] Observable<Idioma> const& idioma() const { return idioma_; }
+
+  /// Stores `nuevo` and puts it in force, unless it is in force already. When it cannot be stored it is in
+  /// force until the program ends, and the failure is returned.
+  [[nodiscard]] std::expected<void, IndexError> elegir(Idioma nuevo);
+
+ private:
+  Preferencias& preferencias_;
+  Observable<Idioma> idioma_;
+};
 
 }  // namespace zorve

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <expected>
+#include <optional>
+#include <string>
+
+#include "ZorveApp/Textos.h"
+#include "ZorveCore/CatalogoDeTerminales.h"
+#include "ZorveCore/Ejecutor.h"
+#include "ZorveCore/Launcher.h"
+
+namespace zorve {
+
+/// Everything that one opening needs, copied, so that it can run away from the main thread.
+struct PeticionDeApertura {
+  Session sesion;
+  CatalogoDeTerminales catalogo;
+  Ejecutor const& ejecutor;
+  std::string rutaPs;
+  Textos textos;
+};
+
+/// `terminal`: what the catalogue resolved, nothing when it failed. At most one of the two texts is set.
+struct ResultadoDeApertura {
+  std::optional<TerminalResuelta> terminal;
+  std::optional<std::string> aviso;
+  std::optional<std::string> error;
+};
+
+/// Resolves the terminal, plans, and runs the plan's commands one after another up to the first that fails.
+/// Texts are in the language of `peticion.textos`. Any thread but the main one.
+[[nodiscard]] ResultadoDeApertura abrirSesion(PeticionDeApertura const& peticion);
+
+/// Asks the catalogue; what its functions throw becomes a failure. Any thread but the main one.
+[[nodiscard]] std::expected<TerminalResuelta, FalloDeApertura> resolverTerminal(
+    CatalogoDeTerminales const& catalogo);
+
+/// The one-line description of a failure.
+[[nodiscard]] std::string descripcionDe(FalloDeApertura const& fallo);
+
+}  // namespace zorve

@@ -1,0 +1,109 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ZorveApp/Apertura.h"
+#include "ZorveApp/Despachador.h"
+#include "ZorveApp/Idioma.h"
+#include "ZorveApp/ListaFiltrada.h"
+#include "ZorveApp/Observable.h"
+#include "ZorveApp/Portapapeles.h"
+
+namespace zorve {
+
+/// What the model works with. The referenced objects outlive it; `ejecutor`, `despachador` and whatever
+/// `cargar` uses outlive every task too, those that still run when the program ends included.
+struct ColaboradoresDelModelo {
+  /// Reads the sessions: `SessionIndex::construir` over the places the main chose. Called in the background.
+  std::function<IndexResult()> cargar;
+  CatalogoDeTerminales catalogo;
+  Ejecutor const& ejecutor;
+  Portapapeles& portapapeles;
+  Despachador& despachador;
+  PreferenciaDeIdioma const& idioma;
+  ReglaDePlegado regla = ReglaDePlegado::general;
+  std::string rutaPs = "/bin/ps";
+};
+
+/// The state behind the panel. Main thread only; loading, resolving, planning and running happen in the
+/// background and hand back one result each. It may be destroyed while they run.
+class ModeloDeVista {
+ public:
+  /// Starts no load.
+  explicit ModeloDeVista(ColaboradoresDelModelo con);
+  ModeloDeVista(ModeloDeVista const&) = delete;
+  ModeloDeVista& operator=(ModeloDeVista const&) = delete;
+  ~ModeloDeVista() = default;
+
+  [[nodiscard]] Observable<IndexResult> const& resultado() const { return resultado_; }
+  [[nodiscard]] Observable<std::string> const& consulta() const { return consulta_; }
+  /// The `Session::id` of the selected row.
+  [[nodiscard]] Observable<std::optional<std::string>> const& seleccion() const { return seleccion_; }
+  [[nodiscard]] Observable<std::optional<std::string>> const& errorDeApertura() const { return error_; }
+  [[nodiscard]] Observable<std::optional<std::string>> const& avisoDeApertura() const { return aviso_; }
+  [[nodiscard]] Observable<bool> const& refrescando() const { return refrescando_; }
+  [[nodiscard]] Observable<std::optional<TerminalResuelta>> const& terminal() const { return terminal_; }
+  [[nodiscard]] Observable<std::optional<std::string>> const& errorDeTerminal() const {
+    return errorTerminal_;
+  }
+
+  /// The positions in `resultado()->sesiones` of the sessions that the search keeps, in order. Valid until
+  /// the next write.
+  [[nodiscard]] std::span<std::size_t const> visibles() const { return lista_.visibles(); }
+  /// Where the selection stands in `visibles()`, or nothing.
+  [[nodiscard]] std::optional<std::size_t> posicionSeleccionada() const;
+  /// The selected session if the search shows it, else null. Valid until the next write.
+  [[nodiscard]] Session const* seleccionada() const;
+  /// The index's notices, then `errorDeTerminal`, then `errorDeApertura`.
+  [[nodiscard]] std::vector<std::string> mensajesDeError() const;
+  [[nodiscard]] std::string terminalParaElPie() const;
+
+  /// Both correct the selection.
+  void escribirConsulta(std::string texto);
+  void escribirResultado(IndexResult nuevo);
+  /// Selects the visible session with this id; does nothing when there is none.
+  void seleccionar(std::string_view id);
+  /// `delta` rows down the list, stopping at both ends.
+  void mover(int delta);
+
+  /// Loads in the background, unless a load runs already.
+  void refrescar();
+  /// Clears both messages and opens the selected session in the background. Openings are independent of
+  /// each other: the last to end writes last. Does nothing without a selection.
+  void abrirSeleccionada();
+  /// Copies the selected session's identifier (its directory when it has none) and says so.
+  void copiarIdentificador();
+
+  /// `observador` is called after each change of any property, until the subscriptions end.
+  [[nodiscard]] std::vector<Suscripcion> observar(std::function<void()> const& observador) const;
+
+ private:
+  struct Carga;
+  [[nodiscard]] Textos textos() const { return Textos{*con_.idioma.idioma()}; }
+  void terminarCarga(Carga carga);
+  void terminarApertura(ResultadoDeApertura const& resultado);
+  void ponerResultado(IndexResult nuevo, TextosPlegados plegados);
+  void corregirSeleccion();
+  void escribirSeleccion(std::optional<std::size_t> fila);
+
+  ColaboradoresDelModelo con_;
+  ListaFiltrada lista_;
+  Observable<IndexResult> resultado_;
+  Observable<std::string> consulta_;
+  Observable<std::optional<std::string>> seleccion_;
+  Observable<std::optional<std::string>> error_;
+  Observable<std::optional<std::string>> aviso_;
+  Observable<bool> refrescando_;
+  Observable<std::optional<TerminalResuelta>> terminal_;
+  Observable<std::optional<std::string>> errorTerminal_;
+  std::shared_ptr<ModeloDeVista*> vida_ = std::make_shared<ModeloDeVista*>(this);
+};
+
+}  // namespace zorve
