@@ -25,6 +25,7 @@ cierra
 
 # shellcheck disable=SC1091
 nombre=$(. /etc/os-release && echo "$VERSION_CODENAME")
+# shellcheck disable=SC2016
 espejo=$(apt-get indextargets --format '$(SITE)' 'Created-By: Packages' | head -n 1)
 paso "a Debian $nombre root in build/raiz"
 callado "$registro" debootstrap --variant=minbase "$nombre" "$raiz" "$espejo"
