@@ -92,15 +92,16 @@ std::string_view recortar(std::string_view texto) {
   return texto;
 }
 
+std::string_view sacarPalabra(std::string_view& resto) {
+  resto.remove_prefix(blancosAlInicio(resto));
+  auto const palabra = resto.substr(0, noBlancosAlInicio(resto));
+  resto.remove_prefix(palabra.size());
+  return palabra;
+}
+
 std::vector<std::string_view> palabras(std::string_view texto) {
   std::vector<std::string_view> piezas;
-  texto.remove_prefix(blancosAlInicio(texto));
-  while (!texto.empty()) {
-    auto const largo = noBlancosAlInicio(texto);
-    piezas.push_back(texto.substr(0, largo));
-    texto.remove_prefix(largo);
-    texto.remove_prefix(blancosAlInicio(texto));
-  }
+  for (auto pieza = sacarPalabra(texto); !pieza.empty(); pieza = sacarPalabra(texto)) piezas.push_back(pieza);
   return piezas;
 }
 

@@ -14,6 +14,9 @@ namespace zorve {
 /// `texto` without Unicode white space and line breaks at both ends.
 [[nodiscard]] std::string_view recortar(std::string_view texto);
 
+/// The first piece that is no Unicode white space, empty when there is none; `resto` keeps what follows it.
+[[nodiscard]] std::string_view sacarPalabra(std::string_view& resto);
+
 /// The pieces between runs of Unicode white space; empty pieces dropped.
 [[nodiscard]] std::vector<std::string_view> palabras(std::string_view texto);
 
