@@ -1,0 +1,90 @@
+#include "ZorveCore/Ventana.h"
+
+#include <algorithm>
+#include <span>
+
+namespace zorve {
+
+namespace {
+
+constexpr std::size_t pasoCorto = 8'192;
+constexpr std::size_t pasoLargo = 65'536;
+/// What titles and directories are usually found within.
+constexpr std::size_t cerca = 49'152;
+constexpr std::size_t capacidadUsual = 262'144 + RegistroJson::margen;
+
+std::size_t pasoTras(std::size_t leidos) { return leidos < cerca ? pasoCorto : pasoLargo; }
+
+}  // namespace
+
+void Ventana::reservar(std::size_t cuantos) {
+  auto const pedida = std::max(cuantos + RegistroJson::margen, capacidadUsual);
+  if (pedida != capacidad_) {
+    memoria_.reset();
+    memoria_.reset(new char[pedida]);
+    capacidad_ = pedida;
+  }
+  datos_ = memoria_.get();
+}
+
+void Ventana::mirar(ArchivoAbierto& archivo, std::int64_t inicio, std::size_t largo) {
+  reservar(largo);
+  archivo_ = &archivo;
+  inicio_ = inicio;
+  largo_ = detras_ = largo;
+  delante_ = 0;
+}
+
+void Ventana::mirar(std::string_view bloque) {
+  archivo_ = nullptr;
+  datos_ = bloque.data();
+  largo_ = delante_ = bloque.size();
+  detras_ = 0;
+}
+
+std::expected<bool, FalloDelSistema> Ventana::mirarCorto(ArchivoAbierto& archivo) {
+  mirar(archivo, 0, deUnaVez + 1);
+  if (auto const leido = leerEntera(); !leido) return std::unexpected{leido.error()};
+  return largo_ <= deUnaVez;
+}
+
+Ventana::Paso Ventana::leerEntera() {
+  auto const leidos = archivo_->leer(inicio_, std::span{memoria_.get(), largo_});
+  if (!leidos) return std::unexpected{leidos.error()};
+  largo_ = delante_ = *leidos;
+  detras_ = 0;
+  return {};
+}
+
+Ventana::Paso Ventana::leer(std::size_t desde, std::size_t hasta) {
+  auto const leidos = archivo_->leer(inicio_ + static_cast<std::int64_t>(desde),
+                                     std::span{memoria_.get() + desde, hasta - desde});
+  if (!leidos) return std::unexpected{leidos.error()};
+  if (*leidos < hasta - desde) return std::unexpected{FalloDelSistema{encogio, "The file became shorter"}};
+  return {};
+}
+
+void Ventana::cerrarElHueco() {
+  if (delante_ < detras_) return;
+  delante_ = largo_;
+  detras_ = 0;
+}
+
+Ventana::Paso Ventana::masDelante() {
+  auto const hasta = std::min(delante_ + pasoTras(delante_), detras_);
+  auto const leido = leer(delante_, hasta);
+  if (leido) delante_ = hasta;
+  cerrarElHueco();
+  return leido;
+}
+
+Ventana::Paso Ventana::masDetras() {
+  auto const paso = pasoTras(largo_ - detras_);
+  auto const desde = detras_ - std::min(paso, detras_ - delante_);
+  auto const leido = leer(desde, detras_);
+  if (leido) detras_ = desde;
+  cerrarElHueco();
+  return leido;
+}
+
+}  // namespace zorve
