@@ -22,7 +22,7 @@ class UnSoloArchivo final : public Archivos {
     bool operator==(Lectura const&) const = default;
   };
 
-  explicit UnSoloArchivo(std::string contenido) : contenido{std::move(contenido)} {}
+  explicit UnSoloArchivo(std::string inicial) : contenido{std::move(inicial)} {}
 
   std::string contenido;
   /// What was read so far: where from, and how many bytes came.
