@@ -89,6 +89,7 @@ class ModeloDeAjustes {
 
  private:
   struct Carga;
+  void empezarCarga(std::optional<FalloDeAjustes> reciente);
   void terminarCarga(Carga carga);
   void escribirFalloDe(Carga const& carga);
 
@@ -100,7 +101,7 @@ class ModeloDeAjustes {
   Observable<bool> arranqueActivo_;
   Observable<std::optional<FalloDeAjustes>> fallo_;
   Observable<bool> cargado_;
-  /// A failure met since the last load began; that load's success does not clear it.
+  /// A failure met since the last load began, or right before it: that load does not clear it.
   std::optional<FalloDeAjustes> falloReciente_;
   std::uint64_t ultimaCarga_ = 0;
   std::shared_ptr<ModeloDeAjustes*> vida_ = std::make_shared<ModeloDeAjustes*>(this);

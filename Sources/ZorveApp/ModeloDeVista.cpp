@@ -1,0 +1,182 @@
+#include "ZorveApp/ModeloDeVista.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+namespace zorve {
+
+namespace {
+
+std::string const& identificadorDe(Session const& sesion) {
+  return sesion.sessionId ? *sesion.sessionId : sesion.cwd;
+}
+
+bool seLlama(Session const& sesion, std::string_view id) {
+  auto const prefijo = textoCrudo(SessionKind::claude);
+  return id.starts_with(prefijo) && id.substr(prefijo.size()).starts_with(':') &&
+         id.substr(prefijo.size() + 1) == identificadorDe(sesion);
+}
+
+}  // namespace
+
+/// What a load hands back.
+struct ModeloDeVista::Carga {
+  IndexResult resultado;
+  TextosPlegados plegados;
+  std::expected<TerminalResuelta, FalloDeApertura> terminal;
+};
+
+ModeloDeVista::ModeloDeVista(ColaboradoresDelModelo con) : con_{std::move(con)}, lista_{con_.regla} {}
+
+std::optional<std::size_t> ModeloDeVista::posicionSeleccionada() const {
+  if (!*seleccion_) return std::nullopt;
+  auto const visibles = lista_.visibles();
+  auto const lugar = std::ranges::find_if(
+      visibles, [&](std::size_t i) { return seLlama(resultado_->sesiones[i], **seleccion_); });
+  if (lugar == visibles.end()) return std::nullopt;
+  return static_cast<std::size_t>(lugar - visibles.begin());
+}
+
+Session const* ModeloDeVista::seleccionada() const {
+  auto const posicion = posicionSeleccionada();
+  return posicion ? &resultado_->sesiones[visibles()[*posicion]] : nullptr;
+}
+
+std::vector<std::string> ModeloDeVista::mensajesDeError() const {
+  std::vector<std::string> mensajes;
+  for (auto const& error : resultado_->errores) {
+    mensajes.push_back(std::string{textoCrudo(error.fuente)} + ": " + error.mensaje);
+  }
+  if (*errorTerminal_) mensajes.push_back(**errorTerminal_);
+  if (*error_) mensajes.push_back(**error_);
+  return mensajes;
+}
+
+std::string ModeloDeVista::terminalParaElPie() const {
+  if (!*terminal_) return std::string{textos().sinTerminal};
+  auto const& [terminal, origen] = **terminal_;
+  switch (origen) {
+    case OrigenDeLaTerminal::manejadorDelSistema:
+      return textos().pieDelSistema(terminal->nombre());
+    case OrigenDeLaTerminal::unicaInstalada:
+      return textos().pieLaUnica(terminal->nombre());
+    default:
+      return terminal->nombre();
+  }
+}
+
+void ModeloDeVista::escribirConsulta(std::string texto) {
+  if (texto != *consulta_) {
+    lista_.cambiarConsulta(texto);
+    consulta_.escribir(std::move(texto));
+  }
+  corregirSeleccion();
+}
+
+void ModeloDeVista::escribirResultado(IndexResult nuevo) {
+  TextosPlegados plegados{nuevo.sesiones, con_.regla};
+  ponerResultado(std::move(nuevo), std::move(plegados));
+}
+
+void ModeloDeVista::ponerResultado(IndexResult nuevo, TextosPlegados plegados) {
+  lista_.cambiarTextos(std::move(plegados));
+  resultado_.escribir(std::move(nuevo));
+  corregirSeleccion();
+}
+
+void ModeloDeVista::corregirSeleccion() {
+  if (posicionSeleccionada()) return;
+  escribirSeleccion(visibles().empty() ? std::nullopt : std::optional{std::size_t{0}});
+}
+
+void ModeloDeVista::escribirSeleccion(std::optional<std::size_t> fila) {
+  seleccion_.escribir(fila ? std::optional{resultado_->sesiones[visibles()[*fila]].id()} : std::nullopt);
+}
+
+void ModeloDeVista::seleccionar(std::string_view id) {
+  auto const esta = [&](std::size_t i) { return seLlama(resultado_->sesiones[i], id); };
+  if (std::ranges::any_of(visibles(), esta)) seleccion_.escribir(std::string{id});
+}
+
+void ModeloDeVista::mover(int delta) {
+  if (visibles().empty()) return;
+  auto const desde = static_cast<std::int64_t>(posicionSeleccionada().value_or(0));
+  auto const ultima = static_cast<std::int64_t>(visibles().size()) - 1;
+  escribirSeleccion(static_cast<std::size_t>(std::clamp<std::int64_t>(desde + delta, 0, ultima)));
+}
+
+void ModeloDeVista::refrescar() {
+  if (*refrescando_) return;
+  refrescando_.escribir(true);
+  con_.despachador.enSegundoPlano([vida = std::weak_ptr{vida_}, &principal = con_.despachador,
+                                   cargar = con_.cargar, catalogo = con_.catalogo, regla = con_.regla] {
+    auto resultado = cargar();
+    TextosPlegados plegados{resultado.sesiones, regla};
+    auto carga =
+        std::make_shared<Carga>(Carga{std::move(resultado), std::move(plegados), resolverTerminal(catalogo)});
+    principal.enPrincipal([vida, carga = std::move(carga)] {
+      if (auto const modelo = vida.lock()) (*modelo)->terminarCarga(std::move(*carga));
+    });
+  });
+}
+
+void ModeloDeVista::terminarCarga(Carga carga) {
+  ponerResultado(std::move(carga.resultado), std::move(carga.plegados));
+  if (carga.terminal) {
+    terminal_.escribir(*std::move(carga.terminal));
+    errorTerminal_.escribir(std::nullopt);
+  } else {
+    terminal_.escribir(std::nullopt);
+    errorTerminal_.escribir(textos().noSePudoResolverLaTerminal(descripcionDe(carga.terminal.error())));
+  }
+  refrescando_.escribir(false);
+  corregirSeleccion();
+}
+
+void ModeloDeVista::abrirSeleccionada() {
+  auto const* sesion = seleccionada();
+  if (sesion == nullptr) return;
+  PeticionDeApertura peticion{*sesion, con_.catalogo, con_.ejecutor, con_.rutaPs, textos()};
+  error_.escribir(std::nullopt);
+  aviso_.escribir(std::nullopt);
+  con_.despachador.enSegundoPlano(
+      [vida = std::weak_ptr{vida_}, &principal = con_.despachador, peticion = std::move(peticion)] {
+        auto resultado = abrirSesion(peticion);
+        principal.enPrincipal([vida, resultado = std::move(resultado)] {
+          if (auto const modelo = vida.lock()) (*modelo)->terminarApertura(resultado);
+        });
+      });
+}
+
+void ModeloDeVista::terminarApertura(ResultadoDeApertura const& resultado) {
+  if (resultado.terminal) {
+    terminal_.escribir(resultado.terminal);
+    errorTerminal_.escribir(std::nullopt);
+  }
+  if (resultado.aviso) aviso_.escribir(resultado.aviso);
+  if (resultado.error) error_.escribir(resultado.error);
+}
+
+void ModeloDeVista::copiarIdentificador() {
+  auto const* sesion = seleccionada();
+  if (sesion == nullptr) return;
+  auto const valor = identificadorDe(*sesion);
+  con_.portapapeles.copiar(valor);
+  aviso_.escribir(textos().copiado(valor));
+}
+
+std::vector<Suscripcion> ModeloDeVista::observar(std::function<void()> const& observador) const {
+  std::vector<Suscripcion> todas;
+  todas.push_back(resultado_.observar(observador));
+  todas.push_back(consulta_.observar(observador));
+  todas.push_back(seleccion_.observar(observador));
+  todas.push_back(error_.observar(observador));
+  todas.push_back(aviso_.observar(observador));
+  todas.push_back(refrescando_.observar(observador));
+  todas.push_back(terminal_.observar(observador));
+  todas.push_back(errorTerminal_.observar(observador));
+  return todas;
+}
+
+}  // namespace zorve

@@ -1,0 +1,137 @@
+#include "ZorveApp/PanelView.h"
+
+#include <utility>
+
+#include "ZorveCore/Presentacion.h"
+
+namespace zorve {
+
+namespace {
+
+std::optional<std::string> palabraDe(LiveState estado, Textos const& textos) {
+  switch (estado) {
+    case LiveState::idle:
+      return std::string{textos.activa};
+    case LiveState::busy:
+      return std::string{textos.procesando};
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<std::string> conteoDe(Session const& sesion, Textos const& textos) {
+  if (!sesion.conteoPrompts) return std::nullopt;
+  return std::to_string(*sesion.conteoPrompts) + " " + std::string{textos.prompts};
+}
+
+std::optional<std::string> ayudaDe(Session const& sesion, Textos const& textos) {
+  if (sesion.tituloOrigen != TitleSource::derivedFromFirstPrompt) return std::nullopt;
+  return std::string{textos.tituloDerivado};
+}
+
+}  // namespace
+
+std::string Fila::lineaDeRuta() const { return palabraDeEstado ? ruta + " · " + *palabraDeEstado : ruta; }
+
+PanelView::PanelView(ModeloDeVista& modelo, EstadoDelPanel const& estado, PreferenciaDeIdioma const& idioma,
+                     std::string home, std::function<Fecha()> reloj, Modificador principal)
+    : modelo_{modelo},
+      estado_{estado},
+      idioma_{idioma},
+      home_{std::move(home)},
+      reloj_{std::move(reloj)},
+      principal_{principal} {}
+
+void PanelView::aparecer() { modelo_.refrescar(); }
+
+std::optional<std::string_view> PanelView::marcador() const {
+  if (cantidadDeFilas() > 0) return std::nullopt;
+  if (!modelo_.resultado()->sesiones.empty()) return textos().sinCoincidencias;
+  return *modelo_.refrescando() ? textos().buscandoSesiones : textos().sinSesiones;
+}
+
+std::size_t PanelView::cantidadDeFilas() const { return modelo_.visibles().size(); }
+
+Session const& PanelView::sesion(std::size_t posicion) const {
+  return modelo_.resultado()->sesiones[modelo_.visibles()[posicion]];
+}
+
+std::string PanelView::idDeFila(std::size_t posicion) const { return sesion(posicion).id(); }
+
+Fila PanelView::fila(std::size_t posicion) const {
+  auto const& de = sesion(posicion);
+  auto const t = textos();
+  auto id = de.id();
+  bool const seleccionada = id == *modelo_.seleccion();
+  return {.id = std::move(id),
+          .titulo = de.titulo,
+          .ayuda = ayudaDe(de, t),
+          .ruta = abreviar(de.cwd, home_),
+          .palabraDeEstado = palabraDe(de.liveState, t),
+          .tiempo = relativo(de.ultimaActividad, reloj_(), t.ahora),
+          .conteo = conteoDe(de, t),
+          .estado = de.liveState,
+          .seleccionada = seleccionada};
+}
+
+std::optional<std::size_t> PanelView::filaSeleccionada() const { return modelo_.posicionSeleccionada(); }
+
+std::vector<LineaDeBanda> PanelView::banda() const {
+  std::vector<LineaDeBanda> lineas;
+  for (auto& mensaje : modelo_.mensajesDeError()) {
+    lineas.push_back({LineaDeBanda::Clase::error, std::move(mensaje)});
+  }
+  if (*modelo_.avisoDeApertura()) {
+    lineas.push_back({LineaDeBanda::Clase::aviso, **modelo_.avisoDeApertura()});
+  }
+  return lineas;
+}
+
+std::array<EntradaDeLeyenda, 3> PanelView::leyenda() const {
+  using enum EntradaDeLeyenda::Simbolo;
+  auto const t = textos();
+  return {{{flechas, "↑↓", t.atajoMover}, {retorno, "↩", t.atajoAbrir}, {refrescar, "⌘R", t.atajoRefrescar}}};
+}
+
+std::string PanelView::terminal() const { return modelo_.terminalParaElPie(); }
+std::string_view PanelView::ayudaAjustes() const { return textos().ayudaAjustes; }
+std::string_view PanelView::nombreAjustes() const { return textos().ajustes; }
+
+bool PanelView::tecla(Pulsacion const& pulsacion) {
+  auto const accion = accionDelPanel(pulsacion, principal_);
+  if (accion) hacer(*accion);
+  return accion.has_value();
+}
+
+void PanelView::hacer(AccionDelPanel accion) {
+  switch (accion) {
+    case AccionDelPanel::subir:
+      return modelo_.mover(-1);
+    case AccionDelPanel::bajar:
+      return modelo_.mover(1);
+    case AccionDelPanel::abrir:
+      return modelo_.abrirSeleccionada();
+    case AccionDelPanel::esconder:
+      return acciones.esconder();
+    case AccionDelPanel::refrescar:
+      return modelo_.refrescar();
+    case AccionDelPanel::copiar:
+      return modelo_.copiarIdentificador();
+    case AccionDelPanel::salir:
+      return acciones.salir();
+    case AccionDelPanel::ajustes:
+      return estado_.abrirLaVentanaDeAjustes();
+    case AccionDelPanel::nada:
+      return;
+  }
+}
+
+void PanelView::clicEnFila(std::size_t posicion) {
+  if (posicion >= cantidadDeFilas()) return;
+  modelo_.seleccionar(idDeFila(posicion));
+  modelo_.abrirSeleccionada();
+}
+
+void PanelView::clicEnAjustes() { estado_.abrirLaVentanaDeAjustes(); }
+
+}  // namespace zorve

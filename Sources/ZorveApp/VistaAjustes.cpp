@@ -1,0 +1,122 @@
+#include "ZorveApp/VistaAjustes.h"
+
+#include <utility>
+
+namespace zorve {
+
+namespace {
+
+std::optional<std::string> notaDeLaAutomatica(std::optional<TerminalResuelta> const& resuelta,
+                                              Textos const& textos) {
+  if (!resuelta) return std::nullopt;
+  switch (resuelta->origen) {
+    case OrigenDeLaTerminal::manejadorDelSistema:
+      return textos.hoyLaDelSistema(resuelta->terminal->nombre());
+    case OrigenDeLaTerminal::unicaInstalada:
+      return textos.hoyLaUnica(resuelta->terminal->nombre());
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace
+
+std::string_view titulo(SeccionDeAjustes seccion, Idioma idioma) {
+  switch (seccion) {
+    case SeccionDeAjustes::general:
+      return "General";
+    case SeccionDeAjustes::terminal:
+      return "Terminal";
+    default:
+      return idioma == Idioma::es ? "Acerca de" : "About";
+  }
+}
+
+std::string_view simbolo(SeccionDeAjustes seccion) {
+  switch (seccion) {
+    case SeccionDeAjustes::general:
+      return "gearshape";
+    case SeccionDeAjustes::terminal:
+      return "terminal";
+    default:
+      return "info.circle";
+  }
+}
+
+VistaAjustes::VistaAjustes(ModeloDeAjustes& modelo, PreferenciaDeIdioma const& idioma, Modificador principal)
+    : modelo_{modelo}, idioma_{idioma}, principal_{principal} {}
+
+void VistaAjustes::aparecer() { modelo_.cargar(); }
+
+std::vector<FilaDeSeccion> VistaAjustes::secciones() const {
+  std::vector<FilaDeSeccion> filas;
+  for (auto const seccion : todosLosCasos<SeccionDeAjustes>()) {
+    filas.push_back({.seccion = seccion,
+                     .titulo = titulo(seccion, *idioma_.idioma()),
+                     .simbolo = simbolo(seccion),
+                     .elegida = seccion == *modelo_.seccion()});
+  }
+  return filas;
+}
+
+void VistaAjustes::clicEnSeccion(SeccionDeAjustes seccion) { modelo_.escribirSeccion(seccion); }
+
+std::optional<std::string> VistaAjustes::banda() const {
+  if (!*modelo_.fallo()) return std::nullopt;
+  return (*modelo_.fallo())->banda(textos());
+}
+
+ContenidoDeAjustes VistaAjustes::general() const {
+  auto const t = textos();
+  Grupo inicio{t.seccionInicio,
+               {{.marcada = *modelo_.arranqueActivo(),
+                 .titulo = std::string{t.abrirAlIniciarSesion},
+                 .cuadro = true,
+                 .accion = [&modelo = modelo_] { modelo.alternarArranque(); }}}};
+  Grupo idiomas{t.seccionIdioma, {}};
+  for (auto const idioma : todosLosCasos<Idioma>()) {
+    idiomas.opciones.push_back({.marcada = idioma == *idioma_.idioma(),
+                                .titulo = std::string{nombrePropio(idioma)},
+                                .accion = [&modelo = modelo_, idioma] { modelo.elegirIdioma(idioma); }});
+  }
+  return {.grupos = {std::move(inicio), std::move(idiomas)}};
+}
+
+ContenidoDeAjustes VistaAjustes::terminal() const {
+  if (modelo_.instaladas()->empty()) {
+    return {.texto = *modelo_.cargado() ? textos().sinTerminalCompatible : std::string_view{}};
+  }
+  Grupo columna{{}, {opcionAutomatica()}};
+  for (auto const& instalada : *modelo_.instaladas()) columna.opciones.push_back(opcionDe(*instalada));
+  return {.grupos = {std::move(columna)}};
+}
+
+Opcion VistaAjustes::opcionAutomatica() const {
+  auto const t = textos();
+  return {.marcada = !modelo_.eleccion()->has_value(),
+          .titulo = std::string{t.laQueDecidaZorve},
+          .nota = notaDeLaAutomatica(*modelo_.resuelta(), t),
+          .accion = [&modelo = modelo_] { modelo.elegirTerminal(std::nullopt); }};
+}
+
+Opcion VistaAjustes::opcionDe(Terminal const& terminal) const {
+  auto const identificador = terminal.identificador();
+  return {
+      .marcada = identificador == *modelo_.eleccion(),
+      .titulo = terminal.nombre(),
+      .nota = terminal.puedeEnfocar() ? std::nullopt : std::optional{std::string{textos().noPuedeEnfocar}},
+      .accion = [&modelo = modelo_, identificador] { modelo.elegirTerminal(identificador); }};
+}
+
+AcercaDe VistaAjustes::acercaDe() const {
+  return {.nombreYVersion = "Zorve " + modelo_.version(), .paraCerrar = textos().paraCerrarZorve};
+}
+
+bool VistaAjustes::tecla(Pulsacion const& pulsacion) {
+  auto const accion = accionDeAjustes(pulsacion, principal_);
+  if (accion == AccionDeAjustes::cerrar) acciones.cerrar();
+  if (accion == AccionDeAjustes::salir) acciones.salir();
+  return accion.has_value();
+}
+
+}  // namespace zorve
