@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "ZorveCore/AplicacionesInstaladas.h"
+#include "ZorveCore/ManejadorDelSistema.h"
 #include "ZorveCore/Modelo.h"
 #include "ZorveCore/Preferencias.h"
 #include "ZorveCore/Terminal.h"
@@ -53,6 +54,9 @@ struct CatalogoDeTerminales {
   [[nodiscard]] std::expected<TerminalResuelta, IndexError> resolver() const;
 };
 
+/// The identifier of the system's handler for shell scripts, or nothing.
+[[nodiscard]] std::optional<std::string> manejadorRegistrado(ManejadorDelSistema const& manejador);
+
 /// The text saved under `clavePreferencia`, or nothing.
 [[nodiscard]] std::optional<std::string> eleccionGuardada(Preferencias const& preferencias);
 
@@ -60,7 +64,16 @@ struct CatalogoDeTerminales {
 [[nodiscard]] std::expected<void, IndexError> elegir(Preferencias& preferencias,
                                                      std::optional<std::string> const& identificador);
 
-/// The three macOS drivers in their order: iTerm2, Ghostty, Terminal.
+/// A catalogue that asks `manejador` and `preferencias` anew each time; both must outlive it.
+[[nodiscard]] CatalogoDeTerminales catalogoDelSistema(std::vector<TerminalRef> conocidas,
+                                                      ManejadorDelSistema const& manejador,
+                                                      Preferencias const& preferencias);
+
+/// The first of `terminales` whose identifier is `identificador`, case ignored, or null.
+[[nodiscard]] TerminalRef buscarTerminal(std::string_view identificador,
+                                         std::vector<TerminalRef> const& terminales);
+
+/// The three macOS drivers in their order: iTerm2, Ghostty, Terminal. `aplicaciones` must outlive them.
 [[nodiscard]] std::vector<TerminalRef> todas(AplicacionesInstaladas const& aplicaciones);
 
 }  // namespace zorve

@@ -30,6 +30,7 @@ struct Launcher {
   [[nodiscard]] std::expected<PlanDeApertura, FalloDeApertura> planParaSesionViva(
       std::string const& sessionId, Session const& sesion) const;
   [[nodiscard]] std::expected<std::optional<std::string>, FalloDeApertura> ttyDe(std::int32_t pid) const;
+  /// The known terminal among the process and its ancestors, or null.
   [[nodiscard]] std::expected<TerminalRef, FalloDeApertura> terminalQueHospeda(std::int32_t pid) const;
 };
 

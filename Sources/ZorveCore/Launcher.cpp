@@ -1,0 +1,110 @@
+#include "ZorveCore/Launcher.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <string_view>
+#include <utility>
+
+#include "ZorveCore/Escape.h"
+#include "ZorveCore/Texto.h"
+
+namespace zorve {
+
+namespace {
+
+/// How many processes the walk looks at: the session's own and its ancestors.
+constexpr int nivelesDelArbol = 12;
+
+std::unexpected<FalloDeApertura> fallo(std::string mensaje) {
+  return std::unexpected{FalloDeApertura{IndexError{IndexSource::launcher, std::move(mensaje)}}};
+}
+
+std::string recortada(std::string_view texto) {
+  auto const resto = recortar(texto);
+  return std::string{resto.empty() ? std::string_view{"(empty)"} : resto};
+}
+
+/// A decimal 32-bit integer with an optional sign, 0 when it is none.
+std::int32_t enteroO0(std::string_view texto) {
+  if (texto.starts_with('+') && !texto.starts_with("+-")) texto.remove_prefix(1);
+  std::int32_t valor = 0;
+  auto const [fin, error] = std::from_chars(texto.data(), texto.data() + texto.size(), valor);
+  return error == std::errc{} && fin == texto.data() + texto.size() ? valor : 0;
+}
+
+/// A process as `ps -o ppid=,comm=` prints it.
+struct Proceso {
+  std::int32_t padre = 0;
+  std::string_view comando;
+};
+
+std::optional<Proceso> procesoDe(std::string_view salida) {
+  auto const linea = recortar(salida);
+  auto const trozos = palabras(linea);
+  if (trozos.size() < 2) return std::nullopt;
+  return Proceso{enteroO0(trozos.front()), recortar(linea.substr(trozos.front().size()))};
+}
+
+std::expected<ResultadoDeEjecucion, FalloDeApertura> correrPs(Launcher const& launcher,
+                                                              std::string const& columnas, std::int32_t pid) {
+  std::array<std::string, 4> const args{"-o", columnas, "-p", std::to_string(pid)};
+  auto resultado = launcher.ejecutor.correr(launcher.rutaPs, args);
+  if (!resultado) return std::unexpected{FalloDeApertura{std::move(resultado).error()}};
+  return *std::move(resultado);
+}
+
+}  // namespace
+
+std::expected<PlanDeApertura, FalloDeApertura> Launcher::plan(Session const& sesion) const {
+  if (!sesion.sessionId) {
+    return fallo("the Claude session in " + sesion.cwd + " has no sessionId; `claude -r` needs it");
+  }
+  if (sesion.liveState != LiveState::dead) return planParaSesionViva(*sesion.sessionId, sesion);
+  return terminal->planParaAbrir(sesion.cwd, "claude -r " + palabraDeShell(*sesion.sessionId));
+}
+
+std::expected<PlanDeApertura, FalloDeApertura> Launcher::planParaSesionViva(std::string const& sessionId,
+                                                                            Session const& sesion) const {
+  if (!sesion.pid) {
+    return fallo("the live session " + sessionId + " has no pid; without a pid its tty cannot be resolved");
+  }
+  auto tty = ttyDe(*sesion.pid);
+  if (!tty) return std::unexpected{std::move(tty).error()};
+  if (!*tty) return NoSePuedeEnfocar{};
+  auto const hallada = terminalQueHospeda(*sesion.pid).value_or(nullptr);
+  auto const& anfitriona = hallada ? hallada : terminal;
+  if (!anfitriona->puedeEnfocar()) return NoSePuedeEnfocar{*std::move(tty)};
+  auto enfoque = anfitriona->planParaEnfocar(**tty);
+  if (!enfoque) return std::unexpected{FalloDeApertura{std::move(enfoque).error()}};
+  return *std::move(enfoque);
+}
+
+std::expected<std::optional<std::string>, FalloDeApertura> Launcher::ttyDe(std::int32_t pid) const {
+  auto const resultado = correrPs(*this, "tty=", pid);
+  if (!resultado) return std::unexpected{resultado.error()};
+  if (resultado->codigo != 0) {
+    return fallo("ps could not resolve the tty of pid " + std::to_string(pid) + ": exit code " +
+                 std::to_string(resultado->codigo) + ", output: " + recortada(resultado->salida));
+  }
+  auto const nombre = recortar(resultado->salida);
+  if (nombre.empty() || nombre == "??" || nombre == "?") return std::nullopt;
+  return ttyCorto(nombre);
+}
+
+std::expected<TerminalRef, FalloDeApertura> Launcher::terminalQueHospeda(std::int32_t pid) const {
+  for (int nivel = 0; nivel < nivelesDelArbol; ++nivel) {
+    auto const resultado = correrPs(*this, "ppid=,comm=", pid);
+    if (!resultado) return std::unexpected{resultado.error()};
+    auto const proceso = resultado->codigo == 0 ? procesoDe(resultado->salida) : std::nullopt;
+    if (!proceso) return nullptr;
+    auto const hallada = std::ranges::find_if(
+        conocidas, [&](TerminalRef const& conocida) { return conocida->hospeda(proceso->comando); });
+    if (hallada != conocidas.end()) return *hallada;
+    if (proceso->padre <= 1) return nullptr;
+    pid = proceso->padre;
+  }
+  return nullptr;
+}
+
+}  // namespace zorve

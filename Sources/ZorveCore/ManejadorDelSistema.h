@@ -1,0 +1,22 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zorve {
+
+/// Tells which application the system opens a kind of document with. Any thread.
+class ManejadorDelSistema {
+ public:
+  ManejadorDelSistema() = default;
+  ManejadorDelSistema(ManejadorDelSistema const&) = delete;
+  ManejadorDelSistema& operator=(ManejadorDelSistema const&) = delete;
+  virtual ~ManejadorDelSistema() = default;
+
+  /// The identifier of the default application for the uniform type `tipo`; nothing when the system does not
+  /// know the type, has no application for it, or the application has no identifier.
+  [[nodiscard]] virtual std::optional<std::string> aplicacionPara(std::string_view tipo) const = 0;
+};
+
+}  // namespace zorve

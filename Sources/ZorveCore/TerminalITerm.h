@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+#include "ZorveCore/AplicacionesInstaladas.h"
+#include "ZorveCore/Terminal.h"
+
+namespace zorve {
+
+/// iTerm2, driven by AppleScript. Focuses sessions by their device.
+/// `rutaOsascript` is what runs the scripts; `aplicaciones` must outlive the driver.
+class TerminalITerm final : public Terminal {
+ public:
+  TerminalITerm(std::string rutaOsascript, AplicacionesInstaladas const& aplicaciones);
+
+  [[nodiscard]] std::string identificador() const override;
+  [[nodiscard]] std::string nombre() const override;
+  [[nodiscard]] std::string nombreDelBundle() const override;
+  [[nodiscard]] bool puedeEnfocar() const override;
+  [[nodiscard]] bool estaInstalada() const override;
+  [[nodiscard]] PlanDeApertura planParaAbrir(std::string const& cwd,
+                                             std::string const& comando) const override;
+  [[nodiscard]] std::expected<PlanDeApertura, IndexError> planParaEnfocar(
+      std::string const& tty) const override;
+
+ private:
+  std::string rutaOsascript_;
+  AplicacionesInstaladas const& aplicaciones_;
+};
+
+}  // namespace zorve

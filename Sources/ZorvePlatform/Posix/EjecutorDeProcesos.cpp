@@ -1,0 +1,188 @@
+#include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
+
+#include <fcntl.h>
+#include <signal.h>  // NOLINT(modernize-deprecated-headers): sigset_t is POSIX, not C++
+#include <spawn.h>
+#include <sys/wait.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <mutex>
+#include <utility>
+#include <vector>
+
+#include "ZorveCore/Texto.h"
+#include "ZorvePlatform/Posix/Descriptor.h"
+
+extern char** environ;  // NOLINT(readability-redundant-declaration)
+
+namespace zorve {
+
+namespace {
+
+std::unexpected<FalloDelSistema> fallo(int codigo) {
+  return std::unexpected{FalloDelSistema::deErrno(codigo)};
+}
+
+struct Tubo {
+  Descriptor lectura;
+  Descriptor escritura;
+};
+
+std::expected<Tubo, FalloDelSistema> nuevoTubo() {
+  std::array<int, 2> extremos{-1, -1};
+  if (::pipe(extremos.data()) != 0) return fallo(errno);
+  Tubo tubo{Descriptor{extremos[0]}, Descriptor{extremos[1]}};
+  for (int const extremo : extremos) {
+    if (::fcntl(extremo, F_SETFD, FD_CLOEXEC) != 0) return fallo(errno);
+  }
+  return tubo;
+}
+
+/// What the child does with its descriptors before it becomes the program.
+class AccionesDelHijo {
+ public:
+  explicit AccionesDelHijo(int escritura) {
+    codigo_ = ::posix_spawn_file_actions_init(&acciones_);
+    iniciadas_ = codigo_ == 0;
+    anotar([&] { return ::posix_spawn_file_actions_adddup2(&acciones_, escritura, STDOUT_FILENO); });
+    anotar([&] { return ::posix_spawn_file_actions_adddup2(&acciones_, escritura, STDERR_FILENO); });
+    anotar([&] {
+      return ::posix_spawn_file_actions_addopen(&acciones_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    });
+#if defined(__GLIBC__)
+    anotar([&] { return ::posix_spawn_file_actions_addclosefrom_np(&acciones_, STDERR_FILENO + 1); });
+#endif
+  }
+  AccionesDelHijo(AccionesDelHijo const&) = delete;
+  AccionesDelHijo& operator=(AccionesDelHijo const&) = delete;
+  ~AccionesDelHijo() {
+    if (iniciadas_) ::posix_spawn_file_actions_destroy(&acciones_);
+  }
+
+  [[nodiscard]] int codigo() const { return codigo_; }
+  [[nodiscard]] posix_spawn_file_actions_t const* puntero() const { return &acciones_; }
+
+ private:
+  template <class Accion>
+  void anotar(Accion accion) {
+    if (codigo_ == 0) codigo_ = accion();
+  }
+
+  posix_spawn_file_actions_t acciones_{};
+  int codigo_ = 0;
+  bool iniciadas_ = false;
+};
+
+/// The child's signals: each at its default, none blocked.
+class AtributosDelHijo {
+ public:
+  AtributosDelHijo() {
+    codigo_ = ::posix_spawnattr_init(&atributos_);
+    iniciados_ = codigo_ == 0;
+    sigset_t normales{};
+    sigset_t ninguna{};
+    ::sigfillset(&normales);
+    ::sigdelset(&normales, SIGKILL);
+    ::sigdelset(&normales, SIGSTOP);
+    ::sigemptyset(&ninguna);
+    anotar([&] { return ::posix_spawnattr_setsigdefault(&atributos_, &normales); });
+    anotar([&] { return ::posix_spawnattr_setsigmask(&atributos_, &ninguna); });
+    anotar([&] { return ::posix_spawnattr_setflags(&atributos_, banderas()); });
+  }
+  AtributosDelHijo(AtributosDelHijo const&) = delete;
+  AtributosDelHijo& operator=(AtributosDelHijo const&) = delete;
+  ~AtributosDelHijo() {
+    if (iniciados_) ::posix_spawnattr_destroy(&atributos_);
+  }
+
+  [[nodiscard]] int codigo() const { return codigo_; }
+  [[nodiscard]] posix_spawnattr_t const* puntero() const { return &atributos_; }
+
+ private:
+  static short banderas() {
+    unsigned todas = POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK;
+#if defined(POSIX_SPAWN_CLOEXEC_DEFAULT)
+    todas |= POSIX_SPAWN_CLOEXEC_DEFAULT;
+#endif
+    return static_cast<short>(todas);
+  }
+  template <class Accion>
+  void anotar(Accion accion) {
+    if (codigo_ == 0) codigo_ = accion();
+  }
+
+  posix_spawnattr_t atributos_{};
+  int codigo_ = 0;
+  bool iniciados_ = false;
+};
+
+struct Hijo {
+  pid_t pid = 0;
+  Descriptor lectura;
+};
+
+std::vector<char*> punteros(std::vector<std::string>& textos) {
+  std::vector<char*> resultado;
+  resultado.reserve(textos.size() + 1);
+  for (auto& texto : textos) resultado.push_back(texto.data());
+  resultado.push_back(nullptr);
+  return resultado;
+}
+
+std::expected<Hijo, FalloDelSistema> lanzar(std::vector<std::string> palabras) {
+  static std::mutex unoALaVez;
+  std::scoped_lock const turno{unoALaVez};
+  auto tubo = nuevoTubo();
+  if (!tubo) return std::unexpected{std::move(tubo).error()};
+  AccionesDelHijo const acciones{tubo->escritura.numero()};
+  AtributosDelHijo const atributos;
+  if (int const codigo = std::max(acciones.codigo(), atributos.codigo()); codigo != 0) return fallo(codigo);
+  Hijo hijo{0, std::move(tubo->lectura)};
+  auto const ruta = palabras.front();
+  int const codigo = ::posix_spawn(&hijo.pid, ruta.c_str(), acciones.puntero(), atributos.puntero(),
+                                   punteros(palabras).data(), environ);
+  if (codigo != 0) return fallo(codigo);
+  return hijo;
+}
+
+std::string leerHastaElFin(int descriptor) {
+  std::string todo;
+  std::array<char, 65536> trozo{};
+  for (;;) {
+    auto const n = ::read(descriptor, trozo.data(), trozo.size());
+    if (n < 0 && errno == EINTR) continue;
+    if (n <= 0) return todo;
+    todo.append(trozo.data(), static_cast<std::size_t>(n));
+  }
+}
+
+std::expected<std::int32_t, FalloDelSistema> esperar(pid_t pid) {
+  int estado = 0;
+  while (::waitpid(pid, &estado, 0) < 0) {
+    if (errno != EINTR) return fallo(errno);
+  }
+  return WIFEXITED(estado) ? WEXITSTATUS(estado) : 128 + WTERMSIG(estado);
+}
+
+bool tieneNul(std::string const& texto) { return texto.contains('\0'); }
+
+}  // namespace
+
+std::expected<ResultadoDeEjecucion, FalloDelSistema> EjecutorDeProcesos::correr(
+    std::string const& ruta, std::span<std::string const> args) const {
+  if (tieneNul(ruta) || std::ranges::any_of(args, tieneNul)) {
+    return std::unexpected{FalloDelSistema{EINVAL, "The path or an argument holds a NUL byte"}};
+  }
+  std::vector<std::string> palabras{ruta};
+  palabras.insert(palabras.end(), args.begin(), args.end());
+  auto const hijo = lanzar(std::move(palabras));
+  if (!hijo) return std::unexpected{hijo.error()};
+  auto const salida = leerHastaElFin(hijo->lectura.numero());
+  auto const codigo = esperar(hijo->pid);
+  if (!codigo) return std::unexpected{codigo.error()};
+  return ResultadoDeEjecucion{*codigo, conUtf8Valido(salida)};
+}
+
+}  // namespace zorve
