@@ -1,0 +1,4 @@
+tell application "Terminal"
+  activate
+  do script "cd '/Users/ana/it'\\''s' && claude -r 'abc'"
+end tell
