@@ -12,7 +12,7 @@ namespace zorve::dobles {
 class AplicacionesFijas final : public AplicacionesInstaladas {
  public:
   AplicacionesFijas() = default;
-  explicit AplicacionesFijas(std::set<std::string> instaladas) : instaladas{std::move(instaladas)} {}
+  explicit AplicacionesFijas(std::set<std::string> unas) : instaladas{std::move(unas)} {}
 
   [[nodiscard]] bool hay(std::string const& identificador) const override {
     return instaladas.contains(identificador);

@@ -11,8 +11,8 @@ namespace zorve::dobles {
 /// A system whose handler for `tipo` is `identificador`; for any other type there is none.
 class ManejadorFijo final : public ManejadorDelSistema {
  public:
-  ManejadorFijo(std::string tipo, std::optional<std::string> identificador)
-      : identificador{std::move(identificador)}, tipo_{std::move(tipo)} {}
+  ManejadorFijo(std::string tipo, std::optional<std::string> suyo)
+      : identificador{std::move(suyo)}, tipo_{std::move(tipo)} {}
 
   [[nodiscard]] std::optional<std::string> aplicacionPara(std::string_view tipo) const override {
     return tipo == tipo_ ? identificador : std::nullopt;
