@@ -13,3 +13,7 @@ endif()
 if(ZORVE_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(zorve_opciones INTERFACE -Wno-maybe-uninitialized -Wno-tsan)
 endif()
+# g++ 12 takes short string joins for overlapping copies when it optimises (its bug 105651).
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  target_compile_options(zorve_opciones INTERFACE -Wno-restrict)
+endif()
