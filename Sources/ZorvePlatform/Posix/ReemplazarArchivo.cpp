@@ -1,0 +1,75 @@
+#include "ZorvePlatform/Posix/ReemplazarArchivo.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+#include "ZorvePlatform/Posix/Descriptor.h"
+
+namespace zorve {
+
+namespace {
+
+using Resultado = std::expected<void, FalloDelSistema>;
+
+Resultado segun(bool bien) {
+  if (bien) return {};
+  return std::unexpected{FalloDelSistema::deErrno(errno)};
+}
+
+/// Where the chain of links that begins at `ruta` ends, whether anything is there or not.
+std::expected<std::filesystem::path, FalloDelSistema> destinoDe(std::filesystem::path ruta) {
+  constexpr int enlacesComoMucho = 40;
+  for (int i = 0; i < enlacesComoMucho; ++i) {
+    std::error_code error;
+    auto const siguiente = std::filesystem::read_symlink(ruta, error);
+    if (error) return ruta;
+    ruta = siguiente.is_absolute() ? siguiente : ruta.parent_path() / siguiente;
+  }
+  return std::unexpected{FalloDelSistema::deErrno(ELOOP)};
+}
+
+Resultado escribirTodo(int descriptor, std::string_view contenido) {
+  while (!contenido.empty()) {
+    auto const n = ::write(descriptor, contenido.data(), contenido.size());
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) return segun(false);
+    contenido.remove_prefix(static_cast<std::size_t>(n));
+  }
+  return {};
+}
+
+Resultado llenar(int descriptor, std::string_view contenido) {
+  if (::fcntl(descriptor, F_SETFD, FD_CLOEXEC) != 0) return segun(false);
+  if (::fchmod(descriptor, S_IRUSR | S_IWUSR) != 0) return segun(false);
+  if (auto escrito = escribirTodo(descriptor, contenido); !escrito) return escrito;
+  return segun(::fsync(descriptor) == 0);
+}
+
+/// So that the new name survives a crash; a folder that cannot be synchronised is no failure.
+void sincronizarCarpeta(std::filesystem::path const& carpeta) {
+  Descriptor const descriptor{::open(carpeta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+  if (descriptor) ::fsync(descriptor.numero());
+}
+
+}  // namespace
+
+std::expected<void, FalloDelSistema> reemplazarArchivo(std::string const& ruta, std::string_view contenido) {
+  auto const destino = destinoDe(ruta);
+  if (!destino) return std::unexpected{destino.error()};
+  auto temporal = destino->string() + ".XXXXXX";
+  Descriptor const descriptor{::mkstemp(temporal.data())};
+  if (!descriptor) return segun(false);
+  auto resultado = llenar(descriptor.numero(), contenido);
+  if (resultado) resultado = segun(std::rename(temporal.c_str(), destino->c_str()) == 0);
+  if (!resultado) ::unlink(temporal.c_str());
+  if (resultado) sincronizarCarpeta(destino->parent_path());
+  return resultado;
+}
+
+}  // namespace zorve
