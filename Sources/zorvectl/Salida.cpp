@@ -1,0 +1,64 @@
+#include "zorvectl/Salida.h"
+
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <charconv>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "ZorveCore/FalloDelSistema.h"
+#include "ZorveCore/TextoVisible.h"
+
+namespace zorve::ctl {
+
+namespace {
+
+std::string_view variable(char const* nombre) {
+  char const* const valor = std::getenv(nombre);
+  return valor == nullptr ? std::string_view{} : std::string_view{valor};
+}
+
+std::optional<std::size_t> columnasDelEntorno() {
+  auto const texto = variable("COLUMNS");
+  std::size_t columnas = 0;
+  auto const [fin, fallo] = std::from_chars(texto.data(), texto.data() + texto.size(), columnas);
+  if (fallo != std::errc{} || fin != texto.data() + texto.size() || columnas == 0) return std::nullopt;
+  return columnas;
+}
+
+std::optional<std::size_t> columnasDelTerminal() {
+  struct winsize tamano{};
+  if (::ioctl(STDOUT_FILENO, TIOCGWINSZ, &tamano) != 0 || tamano.ws_col == 0) return std::nullopt;
+  return tamano.ws_col;
+}
+
+}  // namespace
+
+Pantalla pantallaDeSalida() {
+  bool const terminal = ::isatty(STDOUT_FILENO) != 0;
+  auto columnas = columnasDelTerminal();
+  if (!columnas) columnas = columnasDelEntorno();
+  return {columnas, terminal && variable("NO_COLOR").empty() && variable("TERM") != "dumb"};
+}
+
+void escribir(Contexto& contexto, std::string_view texto) {
+  bool const escrito = std::fwrite(texto.data(), 1, texto.size(), stdout) == texto.size();
+  if (escrito && std::fflush(stdout) == 0) return;
+  terminarCon(contexto, Contexto::fallo,
+              "Could not write the output: " + FalloDelSistema::deErrno(errno).descripcion);
+}
+
+void avisar(std::string_view linea) {
+  auto const visible = textoVisible(linea) + "\n";
+  std::fwrite(visible.data(), 1, visible.size(), stderr);
+}
+
+void terminarCon(Contexto& contexto, int codigo, std::string_view linea) {
+  contexto.codigo = codigo;
+  avisar("zorvectl: " + std::string{linea});
+}
+
+}  // namespace zorve::ctl

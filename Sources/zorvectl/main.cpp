@@ -1,0 +1,52 @@
+#include <clocale>
+#include <exception>
+
+#include "ZorveApp/TextosDeEscritorio.h"
+#include "ZorvePlatform/Posix/ArchivosPosix.h"
+#include "ZorvePlatform/Posix/VidaDeProcesosPosix.h"
+#include "zorvectl/Ordenes.h"
+#include "zorvectl/Salida.h"
+
+namespace {
+
+#if defined(__APPLE__)
+std::string textoPropio(std::string_view texto) { return std::string{texto}; }
+#else
+std::string textoPropio(std::string_view texto) { return zorve::textoDeEscritorio(texto); }
+#endif
+
+void agregarOrdenes(CLI::App& app, zorve::ctl::Contexto& contexto) {
+  zorve::ctl::agregarOrdenList(app, contexto);
+}
+
+int correr(int cuantos, char** palabras) {
+  zorve::ArchivosPosix archivos;
+  zorve::VidaDeProcesosPosix procesos;
+  zorve::ctl::Contexto contexto{.archivos = archivos, .procesos = procesos, .textoPropio = textoPropio};
+  CLI::App app{"Lists Claude Code sessions, newest first.", "zorvectl"};
+  app.set_version_flag("--version", "zorvectl " ZORVE_VERSION);
+  app.require_subcommand(1);
+  agregarOrdenes(app, contexto);
+  try {
+    app.parse(cuantos, palabras);
+  } catch (CLI::CallForHelp const&) {
+    zorve::ctl::escribir(contexto, app.help());
+  } catch (CLI::CallForVersion const& version) {
+    zorve::ctl::escribir(contexto, std::string{version.what()} + "\n");
+  } catch (CLI::ParseError const& error) {
+    zorve::ctl::terminarCon(contexto, zorve::ctl::Contexto::malUso,
+                            std::string{error.what()} + " (zorvectl --help tells how)");
+  }
+  return contexto.codigo;
+}
+
+}  // namespace
+
+int main(int cuantos, char** palabras) {
+  try {
+    return correr(cuantos, palabras);
+  } catch (std::exception const& error) {
+    zorve::ctl::avisar(std::string{"zorvectl: "} + error.what());
+    return zorve::ctl::Contexto::fallo;
+  }
+}
