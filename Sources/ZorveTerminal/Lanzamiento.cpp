@@ -1,0 +1,147 @@
+#include "ZorveTerminal/Lanzamiento.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/inotify.h>
+#include <sys/mman.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <system_error>
+
+namespace zorve {
+
+namespace {
+
+using Reloj = std::chrono::steady_clock;
+
+constexpr std::size_t maximoDePalabras = 4096;
+
+class Descriptor {
+ public:
+  explicit Descriptor(int valor) : valor_{valor} {}
+  Descriptor(Descriptor const&) = delete;
+  Descriptor& operator=(Descriptor const&) = delete;
+  ~Descriptor() {
+    if (valor_ >= 0) ::close(valor_);
+  }
+  [[nodiscard]] int valor() const { return valor_; }
+
+ private:
+  int valor_;
+};
+
+std::vector<char*> punteros(std::vector<std::string>& textos) {
+  std::vector<char*> resultado;
+  resultado.reserve(textos.size() + 1);
+  for (auto& texto : textos) resultado.push_back(texto.data());
+  resultado.push_back(nullptr);
+  return resultado;
+}
+
+std::string nombreBase(std::string const& ruta) { return ruta.substr(ruta.rfind('/') + 1); }
+
+/// A directory where the program can start.
+std::string dondeEmpieza(std::string const& directorio) {
+  return ::access(directorio.c_str(), X_OK) == 0 ? directorio : "/";
+}
+
+/// Starts the program with both streams in `salida`; gives 0 and the pid, or an errno value.
+int empezar(Lanzamiento const& lanzamiento, int salida, pid_t& pid) {
+  auto palabras = lanzamiento.args;
+  palabras.insert(palabras.begin(), lanzamiento.ejecutable);
+  auto variables = lanzamiento.entorno;
+  posix_spawn_file_actions_t acciones;
+  posix_spawn_file_actions_init(&acciones);
+  posix_spawn_file_actions_addopen(&acciones, 0, "/dev/null", O_RDONLY, 0);
+  posix_spawn_file_actions_adddup2(&acciones, salida, 1);
+  posix_spawn_file_actions_adddup2(&acciones, salida, 2);
+  posix_spawn_file_actions_addclosefrom_np(&acciones, 3);
+  posix_spawn_file_actions_addchdir_np(&acciones, dondeEmpieza(lanzamiento.directorio).c_str());
+  posix_spawnattr_t atributos;
+  posix_spawnattr_init(&atributos);
+  sigset_t ninguna;
+  sigset_t cualquiera;
+  sigemptyset(&ninguna);
+  sigfillset(&cualquiera);
+  posix_spawnattr_setsigmask(&atributos, &ninguna);
+  posix_spawnattr_setsigdefault(&atributos, &cualquiera);
+  posix_spawnattr_setflags(
+      &atributos, static_cast<short>(POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF));
+  int const codigo = ::posix_spawn(&pid, lanzamiento.ejecutable.c_str(), &acciones, &atributos,
+                                   punteros(palabras).data(), punteros(variables).data());
+  posix_spawnattr_destroy(&atributos);
+  posix_spawn_file_actions_destroy(&acciones);
+  return codigo;
+}
+
+std::string ultimasPalabras(int salida) {
+  auto const largo = std::max<off_t>(::lseek(salida, 0, SEEK_END), 0);
+  auto const desde = std::max<off_t>(largo - static_cast<off_t>(maximoDePalabras), 0);
+  std::string palabras(static_cast<std::size_t>(largo - desde), '\0');
+  auto const leidos = ::pread(salida, palabras.data(), palabras.size(), desde);
+  palabras.resize(leidos < 0 ? 0 : static_cast<std::size_t>(leidos));
+  auto const primera = palabras.find_first_not_of(" \t\r\n");
+  if (primera == std::string::npos) return {};
+  return palabras.substr(primera, palabras.find_last_not_of(" \t\r\n") - primera + 1);
+}
+
+FinTemprano finDe(std::string const& programa, int estado, int salida) {
+  FinTemprano fin;
+  if (WIFSIGNALED(estado)) {
+    int const senal = WTERMSIG(estado);
+    fin.codigo = 128 + senal;
+    fin.mensaje =
+        programa + " was ended by signal " + std::to_string(senal) + " (" + ::strsignal(senal) + ")";
+  } else {
+    fin.codigo = WEXITSTATUS(estado);
+    fin.mensaje = programa + " ended with exit code " + std::to_string(fin.codigo);
+  }
+  auto const palabras = ultimasPalabras(salida);
+  fin.mensaje += palabras.empty() ? " and said nothing" : ": " + palabras;
+  return fin;
+}
+
+/// Waits until `proceso` ends, `vigia` (-1 for none) has something to say or the time is over. True if it was
+/// `vigia`.
+bool esperarLaSenal(int proceso, int vigia, Reloj::time_point limite) {
+  std::array<pollfd, 2> esperados{{{proceso, POLLIN, 0}, {vigia, POLLIN, 0}}};
+  for (;;) {
+    auto const resto = std::chrono::ceil<std::chrono::milliseconds>(limite - Reloj::now()).count();
+    if (resto <= 0) return false;
+    if (::poll(esperados.data(), esperados.size(), static_cast<int>(resto)) > 0) {
+      return esperados[1].revents != 0;
+    }
+  }
+}
+
+}  // namespace
+
+std::expected<void, FinTemprano> lanzar(Lanzamiento const& lanzamiento, std::chrono::milliseconds plazo) {
+  auto const limite = Reloj::now() + plazo;
+  auto const programa = nombreBase(lanzamiento.ejecutable);
+  Descriptor const salida{::memfd_create("zorve-terminal", MFD_CLOEXEC)};
+  Descriptor const vigia{::inotify_init1(IN_CLOEXEC | IN_NONBLOCK)};
+  auto const vigila = !lanzamiento.senal.empty() &&
+                      ::inotify_add_watch(vigia.valor(), lanzamiento.senal.c_str(), IN_DELETE_SELF) >= 0;
+  pid_t pid = 0;
+  if (int const codigo = empezar(lanzamiento, salida.valor(), pid); codigo != 0) {
+    return std::unexpected{
+        FinTemprano{127, programa + " could not be started: " + std::generic_category().message(codigo)}};
+  }
+  Descriptor const proceso{static_cast<int>(::syscall(SYS_pidfd_open, pid, 0))};
+  if (esperarLaSenal(proceso.valor(), vigila ? vigia.valor() : -1, limite)) return {};
+  int estado = 0;
+  if (::waitpid(pid, &estado, WNOHANG) != pid) return {};
+  if (WIFEXITED(estado) && WEXITSTATUS(estado) == 0) return {};
+  return std::unexpected{finDe(programa, estado, salida.valor())};
+}
+
+}  // namespace zorve

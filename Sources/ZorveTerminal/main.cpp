@@ -1,0 +1,85 @@
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ZorveTerminal/Abrir.h"
+#include "ZorveTerminal/Entorno.h"
+
+namespace {
+
+using namespace zorve;
+
+constexpr int usoIncorrecto = 2;
+
+constexpr std::string_view ayuda =
+    "Usage: zorve-terminal open TERMINAL DIRECTORY COMMANDLINE\n"
+    "       zorve-terminal --help | --version\n"
+    "\n"
+    "Opens a new window of the terminal TERMINAL in DIRECTORY, runs the shell command line COMMANDLINE\n"
+    "there in the person's shell and leaves that shell waiting.\n"
+    "\n"
+    "Terminals:";
+
+void escribir(int descriptor, std::string_view texto) {
+  while (!texto.empty()) {
+    auto const n = ::write(descriptor, texto.data(), texto.size());
+    if (n <= 0) return;
+    texto.remove_prefix(static_cast<std::size_t>(n));
+  }
+}
+
+int quejarse(std::string const& mensaje, int codigo) {
+  escribir(STDERR_FILENO, "zorve-terminal: " + mensaje + "\n");
+  return codigo;
+}
+
+int mostrarAyuda() {
+  std::string texto{ayuda};
+  for (auto const& ficha : fichasDeLinux()) texto += " " + ficha.identificador;
+  escribir(STDOUT_FILENO, texto + "\n");
+  return 0;
+}
+
+int abrirVentana(std::span<std::string const> args) {
+  if (args.size() != 3)
+    return quejarse("open takes a terminal, a directory and a command line", usoIncorrecto);
+  auto const* const ficha = fichaDeLinux(args[0]);
+  if (ficha == nullptr) return quejarse("unknown terminal: " + args[0], usoIncorrecto);
+  auto const resultado = abrir(*ficha, args[1], args[2], entornoActual());
+  return resultado ? 0 : quejarse(resultado.error().mensaje, resultado.error().codigo);
+}
+
+int correr(std::span<std::string const> args) {
+  if (args.size() == 1 && args[0] == "--help") return mostrarAyuda();
+  if (args.size() == 1 && args[0] == "--version") {
+    escribir(STDOUT_FILENO, "zorve-terminal " ZORVE_VERSION "\n");
+    return 0;
+  }
+  if (!args.empty() && args[0] == "open") return abrirVentana(args.subspan(1));
+  return quejarse("wrong usage; see zorve-terminal --help", usoIncorrecto);
+}
+
+/// Descriptors 0, 1 and 2 always lead somewhere, so that no other file ever takes their numbers.
+void asegurarFlujos() {
+  for (int abierto = ::open("/dev/null", O_RDWR); abierto >= 0; abierto = ::open("/dev/null", O_RDWR)) {
+    if (abierto > STDERR_FILENO) {
+      ::close(abierto);
+      return;
+    }
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  asegurarFlujos();
+  std::span<char* const> const crudos{argv, static_cast<std::size_t>(argc)};
+  std::vector<std::string> args;
+  for (auto const* const crudo : crudos.subspan(crudos.empty() ? 0 : 1)) args.emplace_back(crudo);
+  return correr(args);
+}
