@@ -44,6 +44,7 @@ class Buscador : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Buscador
 
   bool Default() { return tomar(std::nullopt); }
   bool Bool(bool b) { return tomar(b); }
+  bool RawNumber(char const* /*texto*/, SizeType /*largo*/, bool /*copia*/) { return tomar(std::nullopt); }
   bool String(char const* texto, SizeType largo, bool /*copia*/) { return tomar(std::string{texto, largo}); }
   bool Key(char const* texto, SizeType largo, bool /*copia*/) {
     toca_ = posicion_.enLaRaiz() && std::string_view{texto, largo} == clave_;
