@@ -17,3 +17,7 @@ endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   target_compile_options(zorve_opciones INTERFACE -Wno-restrict)
 endif()
+# clang reports libstdc++ 12's own use of a deprecated function inside std::stable_sort as ours.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  target_compile_options(zorve_opciones INTERFACE -Wno-deprecated-declarations)
+endif()

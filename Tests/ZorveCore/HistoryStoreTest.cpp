@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -267,22 +269,22 @@ TEST_F(HistoryStoreTest, unArchivoQueEncogeODesapareceConservaLoLeido) {
   EXPECT_EQ(resultado.lineasIlegibles, 1);
 }
 
-/// A line of `largo` bytes made as it is read: good JSON but for its length.
+/// Copies the part of `texto`, which stands at `lugar` in a file, that falls into the window `destino`.
+void calcar(std::string_view texto, std::int64_t lugar, std::int64_t desde, std::span<char> destino) {
+  auto const primero = std::max(lugar, desde);
+  auto const ultimo = std::min(lugar + std::ssize(texto), desde + std::ssize(destino));
+  if (primero >= ultimo) return;
+  texto.copy(destino.data() + (primero - desde), static_cast<std::size_t>(ultimo - primero),
+             static_cast<std::size_t>(primero - lugar));
+}
+
+/// A line of `largo` bytes made as it is read, `cola` behind them: good JSON but for its length.
 void generarLinea(dobles::ArchivosDeMemoria& archivos, std::int64_t largo, std::string const& cola) {
-  std::string const cabeza = R"({"display":")";
-  archivos.generar(ruta, largo + static_cast<std::int64_t>(cola.size()),
-                   [largo, cabeza, cola](std::int64_t desde, std::span<char> destino) {
-                     std::ranges::fill(destino, 'x');
-                     for (std::size_t i = 0; i < destino.size(); ++i) {
-                       auto const lugar = desde + static_cast<std::int64_t>(i);
-                       if (std::cmp_less(lugar, cabeza.size())) {
-                         destino[i] = cabeza[static_cast<std::size_t>(lugar)];
-                       } else if (lugar >= largo) {
-                         destino[i] = cola[static_cast<std::size_t>(lugar - largo)];
-                       } else {
-                         i += std::min(destino.size() - i, static_cast<std::size_t>(largo - lugar)) - 1;
-                       }
-                     }
+  archivos.generar(ruta, largo + std::ssize(cola),
+                   [largo, cola](std::int64_t desde, std::span<char> destino) {
+                     std::memset(destino.data(), 'x', destino.size());
+                     calcar(R"({"display":")", 0, desde, destino);
+                     calcar(cola, largo, desde, destino);
                    });
 }
 
