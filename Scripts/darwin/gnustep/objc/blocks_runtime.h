@@ -1,0 +1,2 @@
+// The packaged header declares what clang declares itself in this mode.
+#pragma once

@@ -1,0 +1,88 @@
+#import "ZorveApp/AppKit/ControladorDeAjustes.h"
+
+#include <optional>
+
+#import "ZorveApp/AppKit/Pintura.h"
+#import "ZorveApp/AppKit/VentanaDeAjustes.h"
+#import "ZorveApp/AppKit/VistaDeAjustes.h"
+#include "ZorvePlatform/MacOS/Cadenas.h"
+
+namespace Medidas = zorve::Medidas;
+
+@implementation ControladorDeAjustes {
+  std::optional<zorve::VistaAjustes> _valores;
+  zorve::ModeloDeAjustes* _modelo;
+  zorve::PreferenciaDeIdioma const* _idioma;
+  VentanaDeAjustes* _ventana;
+  VistaDeAjustes* _vista;
+}
+
+- (instancetype)initConModelo:(zorve::ModeloDeAjustes&)modelo idioma:(zorve::PreferenciaDeIdioma const&)idioma {
+  if ((self = [super init])) {
+    _modelo = &modelo;
+    _idioma = &idioma;
+    _valores.emplace(modelo, idioma, zorve::Modificador::mando);
+    __weak ControladorDeAjustes* const debil = self;
+    _valores->acciones = {.cerrar = [debil] { [debil cerrar]; },
+                          .salir = [] { [NSApplication.sharedApplication terminate:nil]; }};
+  }
+  return self;
+}
+
+- (void)mostrar {
+  if (_ventana == nil) [self construir];
+  _valores->aparecer();
+  [_vista actualizar];
+  [NSApplication.sharedApplication activateIgnoringOtherApps:YES];
+  [_ventana makeKeyAndOrderFront:nil];
+}
+
+- (void)cerrar {
+  [_ventana close];
+}
+
+- (void)construir {
+  NSRect const marco = NSMakeRect(0, 0, Medidas::ajustes.ancho, Medidas::ajustes.alto);
+  _ventana = [[VentanaDeAjustes alloc]
+      initWithContentRect:marco
+                styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable | NSWindowStyleMaskMiniaturizable |
+                          NSWindowStyleMaskFullSizeContentView
+                  backing:NSBackingStoreBuffered
+                    defer:NO];
+  _ventana.title = zorve::cadena(zorve::VistaAjustes::tituloDeLaVentana);
+  _ventana.titlebarAppearsTransparent = YES;
+  _ventana.titleVisibility = NSWindowTitleHidden;
+  _ventana.opaque = NO;
+  _ventana.backgroundColor = NSColor.clearColor;
+  _ventana.appearance = [NSAppearance appearanceNamed:NSAppearanceNameDarkAqua];
+  _ventana.releasedWhenClosed = NO;
+  _ventana.delegate = self;
+  [_ventana alPulsar:[self teclas]];
+  NSView* const contenedor = [[NSView alloc] initWithFrame:marco];
+  _vista = [[VistaDeAjustes alloc] initConValores:*_valores modelo:*_modelo idioma:*_idioma];
+  zorve::llenar(_vista, contenedor);
+  _ventana.contentView = contenedor;
+  [_ventana center];
+}
+
+- (BOOL (^)(zorve::Pulsacion const&))teclas {
+  __weak ControladorDeAjustes* const debil = self;
+  return ^BOOL(zorve::Pulsacion const& pulsacion) {
+    ControladorDeAjustes* const fuerte = debil;
+    return fuerte != nil && [fuerte tecla:pulsacion];
+  };
+}
+
+- (BOOL)tecla:(zorve::Pulsacion const&)pulsacion {
+  return _valores->tecla(pulsacion) ? YES : NO;
+}
+
+- (void)windowDidBecomeKey:(NSNotification*)nota {
+  [_vista reactivar];
+}
+
+- (void)windowDidResignKey:(NSNotification*)nota {
+  [_vista reactivar];
+}
+
+@end

@@ -1,0 +1,127 @@
+#import "ZorveApp/AppKit/ControladorDelPanel.h"
+
+#include <utility>
+#include <vector>
+
+#import "ZorveApp/AppKit/BandaDeAvisos.h"
+#import "ZorveApp/AppKit/CampoDeBusqueda.h"
+#import "ZorveApp/AppKit/ListaDeSesiones.h"
+#import "ZorveApp/AppKit/PieDelPanel.h"
+#import "ZorveApp/AppKit/Pintura.h"
+#import "ZorveApp/AppKit/RaizConTeclas.h"
+#import "ZorveApp/AppKit/VidrioDeFondo.h"
+#include "ZorvePlatform/MacOS/Cadenas.h"
+
+namespace Medidas = zorve::Medidas;
+
+@implementation ControladorDelPanel {
+  zorve::PanelView* _panel;
+  zorve::ModeloDeVista* _modelo;
+  zorve::PreferenciaDeIdioma const* _idioma;
+  CampoDeBusqueda* _busqueda;
+  BandaDeAvisos* _banda;
+  ListaDeSesiones* _lista;
+  PieDelPanel* _pie;
+  VidrioDeFondo* _vidrio;
+  std::vector<zorve::Suscripcion> _suscripciones;
+  BOOL _pedida;
+}
+
+- (instancetype)initConPanel:(zorve::PanelView&)panel
+                      modelo:(zorve::ModeloDeVista&)modelo
+                      idioma:(zorve::PreferenciaDeIdioma const&)idioma {
+  if ((self = [super initWithNibName:nil bundle:nil])) {
+    _panel = &panel;
+    _modelo = &modelo;
+    _idioma = &idioma;
+    panel.acciones = {.esconder = [] { [NSApplication.sharedApplication hide:nil]; },
+                      .salir = [] { [NSApplication.sharedApplication terminate:nil]; }};
+  }
+  return self;
+}
+
+- (void)loadView {
+  NSRect const marco = NSMakeRect(0, 0, Medidas::panel.ancho, Medidas::panel.alto);
+  auto* const panel = _panel;
+  RaizConTeclas* const raiz = [[RaizConTeclas alloc] initWithFrame:marco];
+  raiz.alPulsar = ^BOOL(zorve::Pulsacion const& pulsacion) {
+    return panel->tecla(pulsacion) ? YES : NO;
+  };
+  _vidrio = [[VidrioDeFondo alloc] initWithFrame:marco];
+  _busqueda = [[CampoDeBusqueda alloc] initWithFrame:NSZeroRect];
+  _busqueda.campo.delegate = self;
+  _banda = [[BandaDeAvisos alloc] initWithFrame:NSZeroRect];
+  _lista = [[ListaDeSesiones alloc] initConPanel:*_panel];
+  _pie = [[PieDelPanel alloc] initConPanel:*_panel];
+  zorve::llenar(_vidrio, raiz);
+  [self apilar:@[ _busqueda, _banda, _lista, _pie ] en:raiz];
+  [NSLayoutConstraint activateConstraints:@[
+    [raiz.widthAnchor constraintEqualToConstant:Medidas::panel.ancho],
+    [raiz.heightAnchor constraintEqualToConstant:Medidas::panel.alto],
+  ]];
+  self.view = raiz;
+}
+
+- (void)apilar:(NSArray<NSView*>*)vistas en:(NSView*)raiz {
+  NSLayoutYAxisAnchor* arriba = raiz.topAnchor;
+  for (NSView* vista in vistas) {
+    zorve::colgar(vista, raiz);
+    [NSLayoutConstraint activateConstraints:@[
+      [vista.topAnchor constraintEqualToAnchor:arriba],
+      [vista.leadingAnchor constraintEqualToAnchor:raiz.leadingAnchor],
+      [vista.trailingAnchor constraintEqualToAnchor:raiz.trailingAnchor],
+    ]];
+    arriba = vista.bottomAnchor;
+  }
+  [arriba constraintEqualToAnchor:raiz.bottomAnchor].active = YES;
+}
+
+- (void)viewDidLoad {
+  [super viewDidLoad];
+  __weak ControladorDelPanel* const debil = self;
+  auto const alCambiar = [debil] { [debil pedirActualizacion]; };
+  _suscripciones = _modelo->observar(alCambiar);
+  _suscripciones.push_back(_idioma->idioma().observar(alCambiar));
+}
+
+- (void)viewWillAppear {
+  [super viewWillAppear];
+  [self actualizar];
+}
+
+- (void)viewDidAppear {
+  [super viewDidAppear];
+  [_vidrio reactivar];
+  [self.view.window makeFirstResponder:_busqueda.campo];
+  _panel->aparecer();
+}
+
+/// However many properties change in one turn of the main queue, the views are brought up to date once.
+- (void)pedirActualizacion {
+  if (_pedida) return;
+  _pedida = YES;
+  __weak ControladorDelPanel* const debil = self;
+  dispatch_async(dispatch_get_main_queue(), ^{
+    [debil actualizar];
+  });
+}
+
+- (void)actualizar {
+  _pedida = NO;
+  NSString* const consulta = zorve::cadena(*_modelo->consulta());
+  if (![_busqueda.campo.stringValue isEqualToString:consulta]) _busqueda.campo.stringValue = consulta;
+  [_banda mostrar:_panel->banda()];
+  [_lista actualizar];
+  [_pie actualizar];
+}
+
+- (void)controlTextDidChange:(NSNotification*)nota {
+  _modelo->escribirConsulta(zorve::textoDe(_busqueda.campo.stringValue));
+}
+
+/// Keys reach this only after the input method has had them.
+- (BOOL)control:(NSControl*)control textView:(NSTextView*)editor doCommandBySelector:(SEL)orden {
+  return [static_cast<RaizConTeclas*>(self.view) probar:NSApplication.sharedApplication.currentEvent];
+}
+
+@end

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+
+namespace zorve {
+
+/// The current user's home directory: absolute, without a slash at its end. Any thread.
+[[nodiscard]] std::string directorioHogarMac();
+
+}  // namespace zorve
