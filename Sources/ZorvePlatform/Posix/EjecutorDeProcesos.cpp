@@ -83,10 +83,10 @@ class AtributosDelHijo {
     iniciados_ = codigo_ == 0;
     sigset_t normales{};
     sigset_t ninguna{};
-    ::sigfillset(&normales);
-    ::sigdelset(&normales, SIGKILL);
-    ::sigdelset(&normales, SIGSTOP);
-    ::sigemptyset(&ninguna);
+    sigfillset(&normales);
+    sigdelset(&normales, SIGKILL);
+    sigdelset(&normales, SIGSTOP);
+    sigemptyset(&ninguna);
     anotar([&] { return ::posix_spawnattr_setsigdefault(&atributos_, &normales); });
     anotar([&] { return ::posix_spawnattr_setsigmask(&atributos_, &ninguna); });
     anotar([&] { return ::posix_spawnattr_setflags(&atributos_, banderas()); });
