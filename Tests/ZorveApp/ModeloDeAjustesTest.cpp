@@ -1,0 +1,215 @@
+#include "ZorveApp/ModeloDeAjustes.h"
+
+#include <stdexcept>
+
+#include "MesaDeAjustes.h"
+
+namespace zorve {
+namespace {
+
+using Caso = FalloDeAjustes::Caso;
+
+class ModeloDeAjustesTest : public MesaDeAjustes {};
+
+TEST_F(ModeloDeAjustesTest, naceSinSaberNada) {
+  EXPECT_EQ(*modelo->seccion(), SeccionDeAjustes::general);
+  EXPECT_TRUE(modelo->instaladas()->empty());
+  EXPECT_EQ(*modelo->eleccion(), std::nullopt);
+  EXPECT_EQ(*modelo->resuelta(), std::nullopt);
+  EXPECT_FALSE(*modelo->arranqueActivo());
+  EXPECT_EQ(*modelo->fallo(), std::nullopt);
+  EXPECT_FALSE(*modelo->cargado());
+}
+
+TEST_F(ModeloDeAjustesTest, lasSeccionesVanEnSuOrden) {
+  EXPECT_EQ(todosLosCasos<SeccionDeAjustes>(),
+            (std::array{SeccionDeAjustes::general, SeccionDeAjustes::terminal, SeccionDeAjustes::acercaDe}));
+}
+
+TEST_F(ModeloDeAjustesTest, cargarPreguntaTodoMenosLaSeccion) {
+  guardada("com.dos");
+  inicio.encendido = true;
+  modelo->escribirSeccion(SeccionDeAjustes::terminal);
+  cargar();
+  EXPECT_EQ(*modelo->seccion(), SeccionDeAjustes::terminal);
+  EXPECT_EQ(*modelo->instaladas(), conocidas);
+  EXPECT_EQ(*modelo->eleccion(), "com.dos");
+  EXPECT_TRUE(*modelo->arranqueActivo());
+  ASSERT_TRUE(*modelo->resuelta());
+  EXPECT_EQ((*modelo->resuelta())->terminal->nombre(), "Dos");
+  EXPECT_EQ((*modelo->resuelta())->origen, OrigenDeLaTerminal::eleccionDeLaPersona);
+  EXPECT_EQ(*modelo->fallo(), std::nullopt);
+  EXPECT_TRUE(*modelo->cargado());
+}
+
+TEST_F(ModeloDeAjustesTest, soloCuentanLasInstaladas) {
+  conocidas[0] = dobles::terminalFija({.identificador = "com.uno", .nombre = "Uno", .instalada = false});
+  hacerDeNuevo();
+  cargar();
+  EXPECT_EQ(*modelo->instaladas(), (std::vector{conocidas[1]}));
+}
+
+TEST_F(ModeloDeAjustesTest, sinPoderDecidirElFalloEsElDelCatalogo) {
+  cargar();
+  EXPECT_EQ(*modelo->resuelta(), std::nullopt);
+  EXPECT_EQ(*modelo->fallo(), (FalloDeAjustes{Caso::deNucleo, variasInstaladas}));
+}
+
+TEST_F(ModeloDeAjustesTest, otroFalloAlResolverEsTerminalDesconocida) {
+  ModeloDeAjustes otro{{.catalogo = {.conocidas = conocidas,
+                                     .manejadorDelSistema = []() -> std::optional<std::string> {
+                                       throw std::runtime_error{"boom"};
+                                     },
+                                     .leerEleccion = [] { return std::optional<std::string>{}; }},
+                        .preferencias = preferencias,
+                        .inicio = inicio,
+                        .idioma = idioma,
+                        .despachador = despachador}};
+  otro.cargar();
+  despachador.correrTodo();
+  EXPECT_EQ(*otro.fallo(), (FalloDeAjustes{Caso::terminalDesconocida, "boom"}));
+}
+
+TEST_F(ModeloDeAjustesTest, laBandaDeCadaFallo) {
+  Textos const en{Idioma::en};
+  EXPECT_EQ((FalloDeAjustes{Caso::deNucleo, "x"}).banda(en), "x");
+  EXPECT_EQ((FalloDeAjustes{Caso::terminalDesconocida, "x"}).banda(en), "Could not resolve the terminal: x");
+  EXPECT_EQ((FalloDeAjustes{Caso::arranque, "x"}).banda(en),
+            "Could not change the launch-at-login setting: x. Usually because Zorve.app is not in "
+            "/Applications.");
+}
+
+TEST_F(ModeloDeAjustesTest, elegirUnaTerminalLaGuardaYQuitaElFallo) {
+  cargar();
+  ASSERT_TRUE(*modelo->fallo());
+  elegirYCargar("com.dos");
+  EXPECT_EQ(eleccionGuardada(preferencias), "com.dos");
+  EXPECT_EQ(*modelo->eleccion(), "com.dos");
+  EXPECT_EQ(*modelo->fallo(), std::nullopt);
+}
+
+TEST_F(ModeloDeAjustesTest, elegirLaAutomaticaQuitaLaClave) {
+  guardada("com.dos");
+  elegirYCargar(std::nullopt);
+  EXPECT_EQ(eleccionGuardada(preferencias), std::nullopt);
+  EXPECT_EQ(*modelo->eleccion(), std::nullopt);
+}
+
+TEST_F(ModeloDeAjustesTest, siNoSePuedeGuardarLaEleccionLaBandaLoDice) {
+  *manejador = "com.uno";
+  preferencias.fallarCon(IndexError{IndexSource::launcher, "read-only"});
+  elegirYCargar("com.dos");
+  EXPECT_EQ(*modelo->fallo(), (FalloDeAjustes{Caso::deNucleo, "read-only"}));
+  EXPECT_EQ(*modelo->eleccion(), std::nullopt);
+  preferencias.fallarCon(std::nullopt);
+  cargar();
+  EXPECT_EQ(*modelo->fallo(), std::nullopt);
+}
+
+TEST_F(ModeloDeAjustesTest, elegirElIdiomaLoPoneEnVigor) {
+  modelo->elegirIdioma(Idioma::es);
+  EXPECT_EQ(*idioma.idioma(), Idioma::es);
+  EXPECT_EQ(*modelo->fallo(), std::nullopt);
+}
+
+TEST_F(ModeloDeAjustesTest, siNoSePuedeGuardarElIdiomaLaBandaLoDice) {
+  preferencias.fallarCon(IndexError{IndexSource::launcher, "read-only"});
+  modelo->elegirIdioma(Idioma::es);
+  EXPECT_EQ(*modelo->fallo(), (FalloDeAjustes{Caso::deNucleo, "read-only"}));
+}
+
+TEST_F(ModeloDeAjustesTest, alternarElArranqueLoEnciendeYLoApaga) {
+  modelo->alternarArranque();
+  EXPECT_TRUE(inicio.encendido);
+  EXPECT_TRUE(*modelo->arranqueActivo());
+  modelo->alternarArranque();
+  EXPECT_FALSE(inicio.encendido);
+  EXPECT_FALSE(*modelo->arranqueActivo());
+}
+
+TEST_F(ModeloDeAjustesTest, siElArranqueFallaSeMuestraElEstadoReal) {
+  cargar();
+  inicio.fallo = "denied";
+  modelo->alternarArranque();
+  EXPECT_EQ(*modelo->fallo(), (FalloDeAjustes{Caso::arranque, "denied"}));
+  EXPECT_FALSE(*modelo->arranqueActivo());
+  inicio.encendido = true;
+  modelo->alternarArranque();
+  EXPECT_TRUE(*modelo->arranqueActivo());
+}
+
+TEST_F(ModeloDeAjustesTest, unArranqueQueResultaQuitaElFallo) {
+  inicio.fallo = "denied";
+  modelo->alternarArranque();
+  inicio.fallo.reset();
+  modelo->alternarArranque();
+  EXPECT_EQ(*modelo->fallo(), std::nullopt);
+}
+
+TEST_F(ModeloDeAjustesTest, unaCargaBuenaQuitaElFalloDelArranque) {
+  *manejador = "com.uno";
+  inicio.fallo = "denied";
+  modelo->alternarArranque();
+  cargar();
+  EXPECT_EQ(*modelo->fallo(), std::nullopt);
+}
+
+TEST_F(ModeloDeAjustesTest, unaCargaMalaSustituyeElFalloDelArranque) {
+  inicio.fallo = "denied";
+  modelo->alternarArranque();
+  cargar();
+  EXPECT_EQ(*modelo->fallo(), (FalloDeAjustes{Caso::deNucleo, variasInstaladas}));
+}
+
+TEST_F(ModeloDeAjustesTest, unFalloDelArranqueDuranteUnaCargaNoSePierdeAlAcabarEsta) {
+  *manejador = "com.uno";
+  inicio.fallo = "denied";
+  modelo->cargar();
+  modelo->alternarArranque();
+  despachador.correrTodo();
+  EXPECT_EQ(*modelo->fallo(), (FalloDeAjustes{Caso::arranque, "denied"}));
+}
+
+TEST_F(ModeloDeAjustesTest, deDosCargasALaVezCuentaLaUltima) {
+  guardada("com.uno");
+  modelo->cargar();
+  elegirYCargar("com.dos");
+  EXPECT_EQ(*modelo->eleccion(), "com.dos");
+}
+
+TEST_F(ModeloDeAjustesTest, deDosCargasQueAcabanAlRevesCuentaLaUltima) {
+  guardada("com.uno");
+  modelo->cargar();
+  modelo->elegirTerminal("com.dos");
+  ASSERT_TRUE(despachador.pasoDeFondo(1));
+  guardada("com.uno");
+  ASSERT_TRUE(despachador.pasoDeFondo(0));
+  despachador.correrTodo();
+  EXPECT_EQ(*modelo->eleccion(), "com.dos");
+}
+
+TEST_F(ModeloDeAjustesTest, elModeloPuedeDesaparecerMientrasCarga) {
+  modelo->cargar();
+  ASSERT_TRUE(despachador.pasoDeFondo());
+  modelo.reset();
+  EXPECT_TRUE(despachador.pasoPrincipal());
+}
+
+TEST_F(ModeloDeAjustesTest, unaCargaQueNoCambiaNadaNoAvisa) {
+  cargar();
+  int avisos = 0;
+  auto const suscripciones = modelo->observar([&] { ++avisos; });
+  cargar();
+  EXPECT_EQ(avisos, 0);
+}
+
+TEST_F(ModeloDeAjustesTest, laVersionEsLaDelPaqueteOElTextoDelIdioma) {
+  EXPECT_EQ(modelo->version(), "1.2");
+  hacerDeNuevo(std::nullopt);
+  EXPECT_EQ(modelo->version(), "unpackaged");
+  enEspanol();
+  EXPECT_EQ(modelo->version(), "sin empaquetar");
+}
+
+}  // namespace
+}  // namespace zorve
