@@ -63,7 +63,8 @@ std::expected<void, FinTemprano> abrir(FichaDeTerminal const& ficha, std::string
   auto const programa = programaDe(ficha, lugares);
   if (!programa) return std::unexpected{FinTemprano{127, ficha.nombre + " is not installed"}};
   Senal const senal{valorEn(entorno, "XDG_RUNTIME_DIR")};
-  auto const palabras = palabrasDelGuion({directorio, comando, shellDeLaPersona(entorno), senal.ruta()});
+  auto const palabras = palabrasDelGuion(
+      {directorio, comando, shellDeLaPersona(entorno), valorEn(entorno, "HOME"), senal.ruta()});
   return lanzar({.ejecutable = *programa,
                  .args = argumentosDe(ficha, palabras),
                  .entorno = entornoLimpio(entorno),

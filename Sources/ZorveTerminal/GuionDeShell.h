@@ -15,6 +15,8 @@ struct OrdenParaLaShell {
   std::string comando;
   /// Absolute path of the person's shell.
   std::string shell;
+  /// The person's home directory, for terminals that change it; or nothing.
+  std::string casa;
   /// An empty directory that the shell piece removes when it starts, or nothing.
   std::string senal;
 };

@@ -33,7 +33,8 @@ std::string base64(std::string_view texto) {
 
 std::vector<std::string> palabrasDelGuion(OrdenParaLaShell const& orden) {
   std::string texto = "set --";
-  for (auto const& palabra : {sinOpciones(orden.directorio), orden.comando, orden.shell, orden.senal}) {
+  for (auto const& palabra :
+       {sinOpciones(orden.directorio), orden.comando, orden.shell, orden.casa, orden.senal}) {
     texto += " " + palabraDeShell(palabra);
   }
   texto += "\n" + std::string{guionDeShell()};

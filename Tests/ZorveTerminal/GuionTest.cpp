@@ -43,7 +43,7 @@ class Casa {
 
   [[nodiscard]] Pseudoterminal abrir(std::string const& directorio, std::string const& comando,
                                      std::string const& senal = {}) const {
-    return {palabrasDelGuion({directorio, comando, shell_, senal}),
+    return {palabrasDelGuion({directorio, comando, shell_, "", senal}),
             {"HOME=" + carpeta_.ruta(), "PATH=/usr/local/bin:/usr/bin:/bin", "TERM=dumb", "LANG=C.UTF-8",
              "TMPDIR=" + carpeta_.dentro("temporal"), "ENV=" + carpeta_.dentro(".bashrc")},
             carpeta_.ruta()};
@@ -224,8 +224,18 @@ TEST(Guion, unDirectorioQueEmpiezaPorGuionNoEsUnaOpcion) {
   EXPECT_EQ(casa.anotado().at(0), std::filesystem::canonical(casa.carpeta().dentro("-")).string());
 }
 
+TEST(Guion, laCasaDeLaPersonaPuedeSerOtraQueLaQueDiceElTerminal) {
+  CarpetaTemporal const carpeta;
+  carpeta.escribir(".bashrc", "PS1='CASA> '\n");
+  Pseudoterminal terminal{palabrasDelGuion({"/", "echo \"<$HOME>\"", "/bin/bash", carpeta.ruta(), ""}),
+                          {"HOME=/otra", "PATH=/usr/bin:/bin", "TERM=dumb"},
+                          "/"};
+  EXPECT_TRUE(terminal.esperar("<" + carpeta.ruta() + ">")) << terminal.pantalla();
+  EXPECT_TRUE(terminal.esperar("CASA> ")) << terminal.pantalla();
+}
+
 TEST(Guion, lasPalabrasNoLlevanNingunByteDeLaOrdenSinCodificar) {
-  auto const palabras = palabrasDelGuion({"/a$HOME\\b", "claude -r 'x'", "/bin/bash", ""});
+  auto const palabras = palabrasDelGuion({"/a$HOME\\b", "claude -r 'x'", "/bin/bash", "", ""});
   ASSERT_EQ(palabras.size(), 4U);
   EXPECT_EQ(palabras[0], "/bin/sh");
   EXPECT_EQ(palabras[1], "-c");
