@@ -1,0 +1,109 @@
+#include "ZorveApp/Qt/DelegadoQt.h"
+
+#include <QCoreApplication>
+#include <QQmlContext>
+#include <chrono>
+
+#include "ZorveApp/Qt/Conversiones.h"
+#include "ZorveApp/Qt/EstiloQt.h"
+
+namespace zorve {
+
+namespace {
+
+constexpr std::chrono::seconds pasoDelReloj{20};
+constexpr std::chrono::seconds esperaDeLaBandeja{3};
+constexpr auto banderaSinBandeja = "zorve.avisoDeBandejaMostrado";
+
+QString avisoSinBandeja(Idioma idioma) {
+  return idioma == Idioma::es
+             ? QStringLiteral(
+                   "Este escritorio no tiene bandeja para el icono de Zorve. Vuelve a abrir Zorve para "
+                   "mostrar este panel.")
+             : QStringLiteral(
+                   "This desktop has no tray for Zorve's icon. Open Zorve again to show this panel.");
+}
+
+}  // namespace
+
+DelegadoQt::DelegadoQt(ColaboradoresDelDelegado con)
+    : con_{con},
+      escritorio_{escritorioEnUso()},
+      item_{*this, con.estado, con.idioma, con.despachador, PrimerArranque{con.banderas}},
+      barra_{{[this](ClicEnLaBarra clic) { alClic(clic); },
+              [this](EntradaDelMenu::Clase cual) { item_.elegir(cual); }, [this] { item_.reabrir(); }}},
+      puente_{con.modelo, con.panel, con.idioma},
+      ventana_{*escritorio_, [this](Pulsacion const& tecla) { return con_.panel.tecla(tecla); }},
+      ventanaDeAjustes_{con.ajustes, con.modeloDeAjustes, con.idioma} {
+  con_.panel.acciones = {[this] { cerrarPanel(); }, [this] { item_.salir(); }};
+  con_.ajustes.acciones = {[this] { ventanaDeAjustes_.hide(); }, [this] { item_.salir(); }};
+  minutero_.setInterval(pasoDelReloj);
+  connect(&minutero_, &QTimer::timeout, &puente_, &PuenteDelPanel::actualizarTiempos);
+  connect(&ventana_, &VentanaDelPanel::escondida, &minutero_, &QTimer::stop);
+  connect(&gustos_, &GustosDelEscritorio::cambio, this, &DelegadoQt::atenderGustos);
+  idioma_ = con_.idioma.idioma().observar([this] { escribirMenu(); });
+  escribirMenu();
+}
+
+void DelegadoQt::arrancar() {
+  barra_.aparecer();
+  item_.mostrarElPanelSiEsLaPrimeraVez();
+  QTimer::singleShot(0, this, &DelegadoQt::prepararPanel);
+  QTimer::singleShot(esperaDeLaBandeja, this, &DelegadoQt::avisarSiNoHayBandeja);
+}
+
+void DelegadoQt::prepararPanel() {
+  ventana_.rootContext()->setContextProperty(QStringLiteral("panel"), &puente_);
+  ventana_.rootContext()->setContextProperty(QStringLiteral("estilo"),
+                                             estiloParaQml(gustos_.conMovimiento()));
+  ventana_.preparar();
+  gustos_.preguntar();
+}
+
+void DelegadoQt::avisarSiNoHayBandeja() {
+  if (barra_.puesto() || con_.banderas.bandera(banderaSinBandeja)) return;
+  con_.banderas.marcar(banderaSinBandeja);
+  puente_.escribirAvisoPropio(avisoSinBandeja(*con_.idioma.idioma()));
+  connect(
+      &ventana_, &VentanaDelPanel::escondida, &puente_, [this] { puente_.escribirAvisoPropio({}); },
+      Qt::SingleShotConnection);
+}
+
+void DelegadoQt::escribirMenu() { barra_.ponerMenu(menuDelItem(Textos{*con_.idioma.idioma()})); }
+
+void DelegadoQt::atenderGustos() {
+  barra_.escribirBarraClara(gustos_.claro());
+  ventana_.exigirOpaco(gustos_.altoContraste());
+  ventana_.rootContext()->setContextProperty(QStringLiteral("estilo"),
+                                             estiloParaQml(gustos_.conMovimiento()));
+}
+
+void DelegadoQt::reabrir() { item_.reabrir(); }
+
+void DelegadoQt::alClic(ClicEnLaBarra clic) {
+  bool const quisoCerrar = !clic.derecho && !clic.conControl && ventana_.recienCerrada();
+  if (!quisoCerrar) item_.clic(clic);
+}
+
+bool DelegadoQt::panelVisible() const { return ventana_.isVisible(); }
+
+void DelegadoQt::mostrarPanel() {
+  if (ventana_.status() == QQuickView::Null) prepararPanel();
+  ventana_.mostrarEn(barra_.ancla());
+  puente_.actualizarTiempos();
+  minutero_.start();
+  con_.panel.aparecer();
+}
+
+void DelegadoQt::cerrarPanel() { ventana_.esconder(); }
+
+void DelegadoQt::mostrarMenu(std::array<EntradaDelMenu, 3> const& entradas) {
+  barra_.ponerMenu(entradas);
+  barra_.abrirMenu();
+}
+
+void DelegadoQt::mostrarAjustes() { ventanaDeAjustes_.mostrar(); }
+
+void DelegadoQt::salir() { QCoreApplication::quit(); }
+
+}  // namespace zorve

@@ -1,0 +1,129 @@
+#include "ZorveApp/Qt/ElementoDeBarra.h"
+
+#include <QCursor>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusServiceWatcher>
+#include <QGuiApplication>
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+#include "ZorveApp/Qt/Conversiones.h"
+#include "ZorveApp/Qt/IconoDeBarra.h"
+#include "ZorveApp/Qt/X11.h"
+
+namespace zorve {
+
+namespace {
+
+constexpr std::chrono::milliseconds primerReintento{250};
+constexpr std::chrono::milliseconds ultimoReintento{60'000};
+
+QString anfitrionDeNotificadores() { return QStringLiteral("org.kde.StatusNotifierWatcher"); }
+
+bool hayAnfitrionDeNotificadores() {
+  auto const bus = QDBusConnection::sessionBus();
+  return bus.isConnected() && bus.interface()->isServiceRegistered(anfitrionDeNotificadores());
+}
+
+bool hayBandejaDeX11() {
+  auto* const conexion = X11::conexion();
+  return conexion && X11::duenoDe(conexion, "_NET_SYSTEM_TRAY_S0") != 0;
+}
+
+/// Desktops whose trays answer a single click with the menu.
+bool soloMuestraMenus() {
+  auto const escritorio = qEnvironmentVariable("XDG_CURRENT_DESKTOP").toLower();
+  auto const partes = escritorio.split(u':');
+  return std::ranges::any_of(partes, [](QString const& parte) {
+    return parte == u"gnome" || parte == u"unity" || parte == u"ubuntu" || parte == u"pantheon";
+  });
+}
+
+/// A light bar has a dark foreground; the tray of X11 tells it, red, green and blue first, 16 bits each.
+std::optional<bool> barraClaraDeX11() {
+  auto* const conexion = X11::conexion();
+  if (!conexion) return std::nullopt;
+  auto const bandeja = X11::duenoDe(conexion, "_NET_SYSTEM_TRAY_S0");
+  auto const colores = bandeja == 0 ? std::vector<std::uint32_t>{}
+                                    : X11::propiedad(conexion, bandeja, "_NET_SYSTEM_TRAY_COLORS");
+  if (colores.size() < 3) return std::nullopt;
+  return colores[0] + colores[1] + colores[2] < 3 * 0x8000;
+}
+
+}  // namespace
+
+ElementoDeBarra::ElementoDeBarra(Acciones acciones, QObject* padre)
+    : QObject{padre}, acciones_{std::move(acciones)} {
+  reintento_.setSingleShot(true);
+  connect(&reintento_, &QTimer::timeout, this, &ElementoDeBarra::intentar);
+}
+
+void ElementoDeBarra::aparecer() {
+  reintento_.setInterval(primerReintento);
+  intentar();
+  if (puesto() || !QDBusConnection::sessionBus().isConnected()) return;
+  auto* const vigia = new QDBusServiceWatcher{anfitrionDeNotificadores(), QDBusConnection::sessionBus(),
+                                              QDBusServiceWatcher::WatchForRegistration, this};
+  connect(vigia, &QDBusServiceWatcher::serviceRegistered, this, &ElementoDeBarra::intentar);
+}
+
+void ElementoDeBarra::intentar() {
+  if (puesto()) return;
+  if (!hayAnfitrionDeNotificadores() && !hayBandejaDeX11()) {
+    auto const espera = reintento_.intervalAsDuration() * 2;
+    reintento_.setInterval(espera);
+    if (espera < ultimoReintento) reintento_.start();
+    return;
+  }
+  icono_ = std::make_unique<QSystemTrayIcon>();
+  icono_->setToolTip(QStringLiteral("Zorve"));
+  icono_->setContextMenu(&menu_);
+  connect(icono_.get(), &QSystemTrayIcon::activated, this, &ElementoDeBarra::alActivar);
+  vestir();
+  icono_->show();
+}
+
+void ElementoDeBarra::vestir() {
+  if (!puesto()) return;
+  icono_->setIcon(iconoDeBarra(tintaSobre(barraClaraDeX11().value_or(barraClara_))));
+}
+
+void ElementoDeBarra::escribirBarraClara(bool clara) {
+  if (std::exchange(barraClara_, clara) != clara) vestir();
+}
+
+void ElementoDeBarra::ponerMenu(std::array<EntradaDelMenu, 3> const& entradas) {
+  menu_.clear();
+  if (soloMuestraMenus()) {
+    connect(menu_.addAction(QStringLiteral("Zorve")), &QAction::triggered, this,
+            [this] { acciones_.abrir(); });
+  }
+  for (auto const& [clase, titulo, tecla] : entradas) {
+    if (clase == EntradaDelMenu::Clase::separador) {
+      menu_.addSeparator();
+      continue;
+    }
+    auto* const accion = menu_.addAction(aQString(titulo).replace(u'&', QStringLiteral("&&")));
+    accion->setShortcut(QKeySequence{QStringLiteral("Ctrl+") + aQString(tecla)});
+    connect(accion, &QAction::triggered, this, [this, cual = clase] { acciones_.elegir(cual); });
+  }
+}
+
+void ElementoDeBarra::abrirMenu() { menu_.popup(QCursor::pos()); }
+
+std::optional<Ancla> ElementoDeBarra::ancla() const {
+  auto const marco = puesto() ? icono_->geometry() : QRect{};
+  return marco.isEmpty() ? ultimoClic_ : Ancla{marco, false};
+}
+
+void ElementoDeBarra::alActivar(QSystemTrayIcon::ActivationReason razon) {
+  ultimoClic_ = Ancla{QRect{QCursor::pos(), QSize{1, 1}}, true};
+  bool const abreSuMenu = !icono_->geometry().isEmpty();
+  bool const conControl = QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ControlModifier);
+  if (razon == QSystemTrayIcon::Trigger) acciones_.clic({false, conControl});
+  if (razon == QSystemTrayIcon::Context && !abreSuMenu) acciones_.clic({true, conControl});
+}
+
+}  // namespace zorve

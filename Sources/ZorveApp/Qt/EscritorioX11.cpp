@@ -1,0 +1,117 @@
+#include "ZorveApp/Qt/EscritorioX11.h"
+
+#include <xcb/xinput.h>
+
+#include <QGuiApplication>
+#include <algorithm>
+#include <utility>
+
+#include "ZorveApp/Qt/Barras.h"
+#include "ZorveApp/Qt/X11.h"
+
+namespace zorve {
+
+namespace {
+
+xcb_window_t nativa(QWindow const& ventana) { return static_cast<xcb_window_t>(ventana.winId()); }
+
+}  // namespace
+
+bool EscritorioX11::hay() { return X11::conexion() != nullptr; }
+
+EscritorioX11::EscritorioX11() : conexion_{X11::conexion()}, raiz_{X11::raiz(conexion_)} {
+  auto const* const entrada = xcb_get_extension_data(conexion_, &xcb_input_id);
+  if (entrada && entrada->present != 0) extension_ = entrada->major_opcode;
+  qGuiApp->installNativeEventFilter(this);
+}
+
+EscritorioX11::~EscritorioX11() {
+  if (qGuiApp) qGuiApp->removeNativeEventFilter(this);
+}
+
+bool EscritorioX11::hayTransparencia() const { return X11::duenoDe(conexion_, "_NET_WM_CM_S0") != 0; }
+
+bool EscritorioX11::hayDesenfoque() const {
+  auto const region = X11::atomo(conexion_, "_KDE_NET_WM_BLUR_BEHIND_REGION");
+  if (region == 0 || !hayTransparencia()) return false;
+  X11::Respuesta<xcb_list_properties_reply_t> const lista{
+      xcb_list_properties_reply(conexion_, xcb_list_properties(conexion_, raiz_), nullptr)};
+  if (!lista) return false;
+  auto const* const atomos = xcb_list_properties_atoms(lista.get());
+  return std::find(atomos, atomos + lista->atoms_len, region) != atomos + lista->atoms_len;
+}
+
+QRect EscritorioX11::areaLibre(QScreen const& pantalla) const {
+  return sinBarras(pantalla, barrasDelEscritorio(conexion_, raiz_));
+}
+
+void EscritorioX11::preparar(QWindow& ventana) {
+  ventana.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
+                   Qt::NoDropShadowWindowHint);
+}
+
+std::uint32_t EscritorioX11::duenoDelTeclado() const {
+  X11::Respuesta<xcb_get_input_focus_reply_t> const quien{
+      xcb_get_input_focus_reply(conexion_, xcb_get_input_focus(conexion_), nullptr)};
+  return quien ? quien->focus : 0;
+}
+
+bool EscritorioX11::tieneElTeclado(QWindow const& ventana) const {
+  return duenoDelTeclado() == nativa(ventana);
+}
+
+void EscritorioX11::tomarElTeclado(QWindow& ventana) {
+  auto const dueno = duenoDelTeclado();
+  if (dueno != nativa(ventana)) anterior_ = dueno;
+  xcb_set_input_focus(conexion_, XCB_INPUT_FOCUS_POINTER_ROOT, nativa(ventana), XCB_CURRENT_TIME);
+  xcb_flush(conexion_);
+}
+
+void EscritorioX11::devolverElTeclado(QWindow& ventana) {
+  auto const anterior = std::exchange(anterior_, std::nullopt);
+  if (!anterior || !tieneElTeclado(ventana)) return;
+  xcb_set_input_focus(conexion_, XCB_INPUT_FOCUS_POINTER_ROOT, *anterior, XCB_CURRENT_TIME);
+  xcb_flush(conexion_);
+}
+
+void EscritorioX11::vigilarPulsaciones(QWindow& ventana, std::function<void(QPoint)> alPulsarFuera) {
+  vigilada_ = alPulsarFuera ? &ventana : nullptr;
+  alPulsarFuera_ = std::move(alPulsarFuera);
+  escucharPulsaciones(vigilada_ != nullptr);
+}
+
+void EscritorioX11::escucharPulsaciones(bool si) {
+  if (extension_ == 0) return;
+  struct {
+    xcb_input_event_mask_t cabeza;
+    std::uint32_t mascara;
+  } const pedido{{XCB_INPUT_DEVICE_ALL_MASTER, 1},
+                 si ? static_cast<std::uint32_t>(XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS) : 0U};
+  xcb_input_xi_select_events(conexion_, raiz_, 1, &pedido.cabeza);
+  xcb_flush(conexion_);
+}
+
+bool EscritorioX11::nativeEventFilter(QByteArray const& clase, void* mensaje, qintptr* /*resultado*/) {
+  if (!vigilada_ || clase != "xcb_generic_event_t") return false;
+  auto const* const evento = static_cast<xcb_ge_generic_event_t const*>(mensaje);
+  if ((evento->response_type & 0x7F) != XCB_GE_GENERIC || evento->extension != extension_ ||
+      evento->event_type != XCB_INPUT_RAW_BUTTON_PRESS) {
+    return false;
+  }
+  auto const boton = reinterpret_cast<xcb_input_raw_button_press_event_t const*>(evento)->detail;
+  constexpr std::uint32_t primeroDeRueda = 4;
+  constexpr std::uint32_t ultimoDeRueda = 7;
+  if (boton < primeroDeRueda || boton > ultimoDeRueda) comprobarPulsacion();
+  return true;
+}
+
+void EscritorioX11::comprobarPulsacion() {
+  X11::Respuesta<xcb_query_pointer_reply_t> const donde{
+      xcb_query_pointer_reply(conexion_, xcb_query_pointer(conexion_, nativa(*vigilada_)), nullptr)};
+  if (!donde) return;
+  auto const tamano = QSizeF{vigilada_->size()} * vigilada_->devicePixelRatio();
+  if (QRectF{QPointF{0, 0}, tamano}.contains(donde->win_x, donde->win_y)) return;
+  alPulsarFuera_(QCursor::pos());
+}
+
+}  // namespace zorve

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QDBusVariant>
+#include <QObject>
+
+namespace zorve {
+
+/// What the person asks of every program, as the desktop portal tells it. Where there is no portal the
+/// defaults stand. Main thread only.
+class GustosDelEscritorio final : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit GustosDelEscritorio(QObject* padre = nullptr);
+
+  /// Asks without waiting; `cambio` tells of answers that differ.
+  void preguntar();
+
+  [[nodiscard]] bool claro() const { return claro_; }
+  [[nodiscard]] bool altoContraste() const { return altoContraste_; }
+  [[nodiscard]] bool conMovimiento() const { return conMovimiento_; }
+
+ Q_SIGNALS:
+  void cambio();
+
+ private Q_SLOTS:
+  void alCambiar(QString const& espacio, QString const& clave, QDBusVariant const& valor);
+
+ private:
+  void leer(char const* espacio, char const* clave);
+  void anotar(QString const& espacio, QString const& clave, QVariant const& valor);
+
+  bool claro_ = false;
+  bool altoContraste_ = false;
+  bool conMovimiento_ = true;
+};
+
+}  // namespace zorve

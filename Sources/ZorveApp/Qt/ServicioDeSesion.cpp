@@ -1,0 +1,50 @@
+#include "ZorveApp/Qt/ServicioDeSesion.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <utility>
+
+namespace zorve {
+
+namespace {
+
+constexpr int plazo = 5000;
+
+QString nombre() { return QStringLiteral("com.sarnol.zorve"); }
+QString ruta() { return QStringLiteral("/com/sarnol/zorve"); }
+
+void pedirQueSeMuestre(QDBusConnection const& bus) {
+  auto pedido = QDBusMessage::createMethodCall(
+      nombre(), ruta(), QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
+  pedido << QVariantMap{};
+  bus.call(pedido, QDBus::Block, plazo);
+}
+
+}  // namespace
+
+ServicioDeSesion::ServicioDeSesion(std::function<void()> alActivar, QObject* padre)
+    : QObject{padre}, alActivar_{std::move(alActivar)} {}
+
+ServicioDeSesion::Turno ServicioDeSesion::ocupar() {
+  auto bus = QDBusConnection::sessionBus();
+  if (!bus.isConnected()) return Turno::sinBus;
+  bus.registerObject(ruta(), this, QDBusConnection::ExportScriptableSlots);
+  auto const respuesta = bus.interface()->registerService(
+      nombre(), QDBusConnectionInterface::DontQueueService, QDBusConnectionInterface::DontAllowReplacement);
+  if (respuesta.value() == QDBusConnectionInterface::ServiceRegistered) return Turno::primero;
+  bus.unregisterObject(ruta());
+  pedirQueSeMuestre(bus);
+  return Turno::segundo;
+}
+
+void ServicioDeSesion::soltar() {
+  auto bus = QDBusConnection::sessionBus();
+  if (!bus.isConnected()) return;
+  bus.unregisterObject(ruta());
+  bus.unregisterService(nombre());
+}
+
+void ServicioDeSesion::Activate(QVariantMap const& /*datosDePlataforma*/) { alActivar_(); }
+
+}  // namespace zorve

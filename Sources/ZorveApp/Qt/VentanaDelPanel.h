@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QQuickView>
+#include <functional>
+#include <memory>
+
+#include "ZorveApp/Qt/Colocacion.h"
+#include "ZorveApp/Qt/Escritorio.h"
+#include "ZorveApp/Teclado.h"
+
+namespace zorve {
+
+/// The panel's window: shown and hidden, never closed. It closes by itself when the keyboard goes elsewhere
+/// or a button is pressed outside it and outside its anchor. Main thread only.
+class VentanaDelPanel final : public QQuickView {
+  Q_OBJECT
+
+ public:
+  /// `escritorio` outlives the window.
+  VentanaDelPanel(Escritorio& escritorio, std::function<bool(Pulsacion const&)> alPulsar);
+
+  /// Loads the content and paints it once, unseen, so that the first showing is quick. Again does nothing.
+  void preparar();
+  /// Shows it at `ancla`, or without one in the upper part of the screen with the pointer, and takes the
+  /// keyboard.
+  void mostrarEn(std::optional<Ancla> const& ancla);
+  void esconder();
+  /// Whether a press outside has closed it a moment ago: that press was meant to close it, not to open it.
+  [[nodiscard]] bool recienCerrada() const;
+  /// Square corners and solid glass even where windows can be translucent.
+  void exigirOpaco(bool si);
+
+ Q_SIGNALS:
+  void escondida();
+
+ protected:
+  void keyPressEvent(QKeyEvent* evento) override;
+
+ private:
+  void vestir();
+  void colocarEn(std::optional<Ancla> const& ancla);
+  void alCambiarElFoco();
+  void alPulsarFuera(QPoint donde);
+
+  Escritorio& escritorio_;
+  std::function<bool(Pulsacion const&)> alPulsar_;
+  QRect zonaDelIcono_;
+  qint64 cerradaPorFuera_ = -1;
+  bool exigeOpaco_ = false;
+};
+
+}  // namespace zorve

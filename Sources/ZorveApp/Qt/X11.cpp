@@ -1,0 +1,43 @@
+#include "ZorveApp/Qt/X11.h"
+
+#include <QGuiApplication>
+#include <span>
+
+namespace zorve::X11 {
+
+xcb_connection_t* conexion() {
+  auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  return x11 ? x11->connection() : nullptr;
+}
+
+xcb_window_t raiz(xcb_connection_t* conexion) {
+  return xcb_setup_roots_iterator(xcb_get_setup(conexion)).data->root;
+}
+
+xcb_atom_t atomo(xcb_connection_t* conexion, QByteArray const& nombre) {
+  auto const pedido =
+      xcb_intern_atom(conexion, 1, static_cast<std::uint16_t>(nombre.size()), nombre.constData());
+  Respuesta<xcb_intern_atom_reply_t> const respuesta{xcb_intern_atom_reply(conexion, pedido, nullptr)};
+  return respuesta ? respuesta->atom : 0;
+}
+
+xcb_window_t duenoDe(xcb_connection_t* conexion, QByteArray const& seleccion) {
+  auto const nombre = atomo(conexion, seleccion);
+  if (nombre == 0) return 0;
+  Respuesta<xcb_get_selection_owner_reply_t> const respuesta{
+      xcb_get_selection_owner_reply(conexion, xcb_get_selection_owner(conexion, nombre), nullptr)};
+  return respuesta ? respuesta->owner : 0;
+}
+
+std::vector<std::uint32_t> propiedad(xcb_connection_t* conexion, xcb_window_t de, QByteArray const& nombre) {
+  auto const clave = atomo(conexion, nombre);
+  if (clave == 0) return {};
+  auto const pedido = xcb_get_property(conexion, 0, de, clave, XCB_GET_PROPERTY_TYPE_ANY, 0, 4096);
+  Respuesta<xcb_get_property_reply_t> const respuesta{xcb_get_property_reply(conexion, pedido, nullptr)};
+  if (!respuesta || respuesta->format != 32) return {};
+  auto const* const datos = static_cast<std::uint32_t const*>(xcb_get_property_value(respuesta.get()));
+  std::span const todos{datos, respuesta->value_len};
+  return {todos.begin(), todos.end()};
+}
+
+}  // namespace zorve::X11

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <QByteArray>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <vector>
+
+namespace zorve::X11 {
+
+struct Liberar {
+  void operator()(void* respuesta) const { std::free(respuesta); }
+};
+template <class T>
+using Respuesta = std::unique_ptr<T, Liberar>;
+
+/// The toolkit's own connection, or null where the window system is another one.
+[[nodiscard]] xcb_connection_t* conexion();
+[[nodiscard]] xcb_window_t raiz(xcb_connection_t* conexion);
+
+/// 0 for a name that nobody has used on this server.
+[[nodiscard]] xcb_atom_t atomo(xcb_connection_t* conexion, QByteArray const& nombre);
+[[nodiscard]] xcb_window_t duenoDe(xcb_connection_t* conexion, QByteArray const& seleccion);
+
+/// The 32-bit items of a property; empty when it is absent or of another width.
+[[nodiscard]] std::vector<std::uint32_t> propiedad(xcb_connection_t* conexion, xcb_window_t de,
+                                                   QByteArray const& nombre);
+
+}  // namespace zorve::X11

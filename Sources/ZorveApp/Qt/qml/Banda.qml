@@ -1,0 +1,31 @@
+import QtQuick
+
+// Errors and notices as cards. Without any it takes no space; many scroll inside it.
+Item {
+    id: banda
+
+    readonly property double altoMaximo: 140
+
+    visible: lista.count > 0
+    height: lista.count === 0 ? 0 : Math.min(altoMaximo, Math.max(30, lista.contentHeight)) + 2 * 10 - 6
+
+    ListView {
+        id: lista
+        objectName: "banda"
+        anchors { fill: parent; leftMargin: estilo.margenDeBanda; rightMargin: estilo.margenDeBanda; topMargin: 10 }
+        anchors.bottomMargin: 4
+        model: panel.banda
+        spacing: 6
+        clip: true
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+        delegate: Tarjeta {
+            required property var modelData
+            width: ListView.view.width
+            texto: modelData.texto
+            esError: modelData.esError
+        }
+    }
+
+    Desplazamiento { lista: lista; anchors.rightMargin: 4 }
+}

@@ -1,0 +1,52 @@
+import QtQuick
+
+// The rows, or the text that stands in their place. The selected row is always in sight.
+Item {
+    id: cuerpo
+
+    // Help for the row under the pointer and where its foot is; empty when there is none.
+    signal ayuda(string texto, double y)
+
+    ListView {
+        id: lista
+        objectName: "filas"
+        anchors.fill: parent
+        topMargin: 4
+        bottomMargin: 4
+        model: panel.filas
+        clip: true
+        reuseItems: true
+        cacheBuffer: 2 * estilo.altoDeFila
+        boundsBehavior: Flickable.StopAtBounds
+        maximumFlickVelocity: 6000
+        currentIndex: -1
+        highlightFollowsCurrentItem: false
+        readonly property int seleccion: panel.seleccion
+        onSeleccionChanged: ponerALaVista()
+        onCountChanged: Qt.callLater(ponerALaVista)
+        onHeightChanged: ponerALaVista()
+
+        function ponerALaVista() {
+            if (seleccion >= 0 && seleccion < count) positionViewAtIndex(seleccion, ListView.Contain)
+        }
+
+        delegate: FilaDeSesion {
+            width: ListView.view.width
+            seleccionada: index === lista.seleccion
+            conLinea: index !== lista.seleccion && index + 1 !== lista.seleccion && index + 1 < lista.count
+            onPulsada: panel.clicEnFila(index)
+            onSenalada: texto => cuerpo.ayuda(texto, y - lista.contentY + height)
+        }
+    }
+
+    Desplazamiento { lista: lista; anchors.rightMargin: 3 }
+
+    Text {
+        anchors.centerIn: parent
+        visible: text.length > 0
+        text: panel.marcador
+        textFormat: Text.PlainText
+        font.pointSize: estilo.letraDeTitulo
+        color: estilo.textoTenue
+    }
+}

@@ -1,0 +1,72 @@
+#include "ZorvePlatform/Linux/InicioDeSesionLinux.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+#include "ZorvePlatform/Posix/LeerArchivo.h"
+#include "ZorvePlatform/Posix/ReemplazarArchivo.h"
+
+namespace zorve {
+
+namespace {
+
+constexpr std::size_t topeDeEntrada = 64 * 1024;
+
+std::string contenido(std::string const& ejecutable) {
+  return "[Desktop Entry]\nType=Application\nName=Zorve\nExec=" + argumentoDeExec(ejecutable) +
+         "\nIcon=com.sarnol.zorve\nTerminal=false\nX-GNOME-Autostart-enabled=true\n";
+}
+
+bool tieneLinea(std::string_view texto, std::string_view linea) {
+  std::size_t desde = 0;
+  while (desde < texto.size()) {
+    auto const fin = std::min(texto.find('\n', desde), texto.size());
+    if (texto.substr(desde, fin - desde) == linea) return true;
+    desde = fin + 1;
+  }
+  return false;
+}
+
+}  // namespace
+
+std::string argumentoDeExec(std::string const& ruta) {
+  std::string texto = "\"";
+  for (char const c : ruta) {
+    if (c == '"' || c == '`' || c == '$') texto += "\\\\";
+    if (c == '\\') texto += "\\\\\\";
+    if (c == '%') texto += '%';
+    texto += c;
+  }
+  return texto + '"';
+}
+
+InicioDeSesionLinux::InicioDeSesionLinux(EntornoLinux const& entorno, std::string ejecutable)
+    : entrada_{entorno.configHome + "/autostart/com.sarnol.zorve.desktop"},
+      ejecutable_{std::move(ejecutable)} {}
+
+bool InicioDeSesionLinux::activo() const {
+  auto const texto = leerArchivo(entrada_, topeDeEntrada);
+  return texto && texto->find("\nExec=") != std::string::npos && !tieneLinea(*texto, "Hidden=true") &&
+         !tieneLinea(*texto, "X-GNOME-Autostart-enabled=false");
+}
+
+std::expected<void, std::string> InicioDeSesionLinux::registrar() {
+  std::error_code fallo;
+  std::filesystem::create_directories(std::filesystem::path{entrada_}.parent_path(), fallo);
+  if (fallo) return std::unexpected{fallo.message()};
+  auto const escrito = reemplazarArchivo(entrada_, contenido(ejecutable_));
+  if (!escrito) return std::unexpected{std::string{escrito.error().descripcion}};
+  return {};
+}
+
+std::expected<void, std::string> InicioDeSesionLinux::retirar() {
+  std::error_code fallo;
+  std::filesystem::remove(entrada_, fallo);
+  if (fallo) return std::unexpected{fallo.message()};
+  return {};
+}
+
+}  // namespace zorve
