@@ -57,10 +57,7 @@ void agregarOrdenList(CLI::App& app, Contexto& contexto) {
       ->add_option("--filter", opciones->filtro,
                    "Only sessions whose title, directory or last prompt has every word of TEXT")
       ->type_name("TEXT");
-  orden->add_option("--home", opciones->home, "The home directory to look in, instead of the user's")
-      ->type_name("DIR")
-      ->check(
-          [](std::string const& ruta) { return std::string{ruta.empty() ? "DIR must not be empty" : ""}; });
+  agregarOpcionHome(*orden, opciones->home);
   orden->callback([opciones, &contexto] { listar(contexto, *opciones); });
 }
 

@@ -8,5 +8,12 @@ namespace zorve::ctl {
 
 /// Each adds one command to `app`; parsing runs it over `contexto`, which outlives the parsing.
 void agregarOrdenList(CLI::App& app, Contexto& contexto);
+void agregarOrdenPlan(CLI::App& app, Contexto& contexto);
+void agregarOrdenOpen(CLI::App& app, Contexto& contexto);
+void agregarOrdenTerminals(CLI::App& app, Contexto& contexto);
+void agregarOrdenChoose(CLI::App& app, Contexto& contexto);
+
+/// Adds `--home DIR`, which leaves the directory in `home`.
+void agregarOpcionHome(CLI::App& orden, std::string& home);
 
 }  // namespace zorve::ctl

@@ -17,13 +17,17 @@ std::string textoPropio(std::string_view texto) { return zorve::textoDeEscritori
 
 void agregarOrdenes(CLI::App& app, zorve::ctl::Contexto& contexto) {
   zorve::ctl::agregarOrdenList(app, contexto);
+  zorve::ctl::agregarOrdenPlan(app, contexto);
+  zorve::ctl::agregarOrdenOpen(app, contexto);
+  zorve::ctl::agregarOrdenTerminals(app, contexto);
+  zorve::ctl::agregarOrdenChoose(app, contexto);
 }
 
 int correr(int cuantos, char** palabras) {
   zorve::ArchivosPosix archivos;
   zorve::VidaDeProcesosPosix procesos;
   zorve::ctl::Contexto contexto{.archivos = archivos, .procesos = procesos, .textoPropio = textoPropio};
-  CLI::App app{"Lists Claude Code sessions, newest first.", "zorvectl"};
+  CLI::App app{"Lists Claude Code sessions and opens them in a terminal.", "zorvectl"};
   app.set_version_flag("--version", "zorvectl " ZORVE_VERSION);
   app.require_subcommand(1);
   agregarOrdenes(app, contexto);

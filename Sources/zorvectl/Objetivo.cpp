@@ -1,0 +1,98 @@
+#include "zorvectl/Objetivo.h"
+
+#include <utility>
+
+#include "ZorveApp/Apertura.h"
+#include "ZorveApp/Textos.h"
+#include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
+#include "zorvectl/BuscarSesion.h"
+#include "zorvectl/Eleccion.h"
+#include "zorvectl/Ordenes.h"
+#include "zorvectl/Salida.h"
+
+namespace zorve::ctl {
+
+namespace {
+
+using Plan = std::expected<PlanDeApertura, SinPlan>;
+
+std::optional<std::string> usoIncorrecto(Objetivo const& objetivo) {
+  if (objetivo.cwd.has_value() != objetivo.comando.has_value()) return "--cwd and --command go together";
+  int const formas = (objetivo.sesion ? 1 : 0) + (objetivo.cwd ? 1 : 0) + (objetivo.tty ? 1 : 0);
+  if (formas != 1) return "name one thing: SESSION, --cwd DIR with --command LINE, or --tty TTY";
+  if (objetivo.sesion == "") return "SESSION must not be empty";
+  return std::nullopt;
+}
+
+std::unexpected<SinPlan> sinPlan(Contexto const& contexto, FalloDeApertura const& fallo) {
+  if (auto const* nuestro = std::get_if<IndexError>(&fallo)) {
+    return std::unexpected{SinPlan{Contexto::fallo, contexto.textoPropio(nuestro->mensaje)}};
+  }
+  return std::unexpected{SinPlan{Contexto::fallo, Textos{Idioma::en}.noSePudoAbrir(descripcionDe(fallo))}};
+}
+
+std::expected<TerminalRef, SinPlan> terminalPara(Contexto const& contexto,
+                                                 ServiciosDeTerminal const& servicios,
+                                                 std::optional<std::string> const& pedida) {
+  if (pedida) {
+    if (auto terminal = terminalConocida(servicios, *pedida)) return terminal;
+    return std::unexpected{SinPlan{Contexto::malUso, terminalDesconocida(servicios, *pedida)}};
+  }
+  avisarDePreferencias(*servicios.preferencias);
+  auto resuelta = resolverTerminal(servicios.catalogo());
+  if (!resuelta) return sinPlan(contexto, resuelta.error());
+  return resuelta->terminal;
+}
+
+Plan planDe(Contexto const& contexto, Session const& sesion, TerminalRef const& terminal,
+            ServiciosDeTerminal const& servicios) {
+  EjecutorDeProcesos const ejecutor;
+  Launcher const lanzador{terminal, ejecutor, servicios.rutaPs, servicios.propias};
+  auto plan = lanzador.plan(sesion);
+  if (!plan) return sinPlan(contexto, plan.error());
+  return *std::move(plan);
+}
+
+Plan planDe(Contexto const& contexto, Objetivo const& objetivo, TerminalRef const& terminal,
+            ServiciosDeTerminal const& servicios, std::string const& home) {
+  if (objetivo.cwd) return terminal->planParaAbrir(*objetivo.cwd, *objetivo.comando);
+  if (objetivo.tty) {
+    auto plan = terminal->planParaEnfocar(*objetivo.tty);
+    if (!plan) return sinPlan(contexto, plan.error());
+    return *std::move(plan);
+  }
+  auto const leido = leerSesiones(contexto, home);
+  auto const sesion = buscarSesion(leido.sesiones, *objetivo.sesion);
+  if (!sesion) return std::unexpected{SinPlan{Contexto::fallo, sesion.error()}};
+  return planDe(contexto, **sesion, terminal, servicios);
+}
+
+}  // namespace
+
+std::shared_ptr<Objetivo> agregarObjetivo(CLI::App& orden) {
+  auto objetivo = std::make_shared<Objetivo>();
+  orden.add_option("SESSION", objetivo->sesion, "A session's identifier, or a start that only it has")
+      ->type_name("");
+  orden.add_option("--cwd", objetivo->cwd, "Instead of a session: the directory to open")->type_name("DIR");
+  orden.add_option("--command", objetivo->comando, "The shell command line to run in it")->type_name("LINE");
+  orden.add_option("--tty", objetivo->tty, "Instead of a session: the terminal device to focus")
+      ->type_name("TTY");
+  orden.add_option("--terminal", objetivo->terminal, "Another terminal than the resolved one, by identifier")
+      ->type_name("ID");
+  agregarOpcionHome(orden, objetivo->home);
+  return objetivo;
+}
+
+std::expected<PlanHecho, SinPlan> planear(Contexto const& contexto, Objetivo const& objetivo) {
+  if (auto uso = usoIncorrecto(objetivo)) return std::unexpected{SinPlan{Contexto::malUso, *std::move(uso)}};
+  auto const home = hogarDe(objetivo.home);
+  if (!home) return std::unexpected{SinPlan{Contexto::fallo, home.error()}};
+  auto servicios = std::make_unique<ServiciosDeTerminal>(serviciosDeTerminal(*home));
+  auto terminal = terminalPara(contexto, *servicios, objetivo.terminal);
+  if (!terminal) return std::unexpected{std::move(terminal).error()};
+  auto plan = planDe(contexto, objetivo, *terminal, *servicios, *home);
+  if (!plan) return std::unexpected{std::move(plan).error()};
+  return PlanHecho{std::move(servicios), *std::move(terminal), *std::move(plan)};
+}
+
+}  // namespace zorve::ctl
