@@ -28,14 +28,6 @@ std::optional<std::string> fallaAlCorrer(ComandoDeApertura const& comando, Ejecu
   return textos.comandoFallo(comando.ejecutable, corrida->codigo, salida.empty() ? textos.sinSalida : salida);
 }
 
-std::optional<std::string> ejecutar(std::vector<ComandoDeApertura> const& comandos, Ejecutor const& ejecutor,
-                                    Textos const& textos) {
-  for (auto const& comando : comandos) {
-    if (auto falla = fallaAlCorrer(comando, ejecutor, textos)) return falla;
-  }
-  return std::nullopt;
-}
-
 ResultadoDeApertura abrirCon(TerminalResuelta const& resuelta, PeticionDeApertura const& peticion) {
   Launcher const lanzador{resuelta.terminal, peticion.ejecutor, peticion.rutaPs, peticion.catalogo.conocidas};
   ResultadoDeApertura resultado{.terminal = resuelta};
@@ -46,12 +38,20 @@ ResultadoDeApertura abrirCon(TerminalResuelta const& resuelta, PeticionDeApertur
     resultado.aviso = avisoSinEnfoque(*sinEnfoque, *resuelta.terminal, peticion.textos);
   } else {
     resultado.error =
-        ejecutar(std::get<std::vector<ComandoDeApertura>>(*plan), peticion.ejecutor, peticion.textos);
+        ejecutarComandos(std::get<std::vector<ComandoDeApertura>>(*plan), peticion.ejecutor, peticion.textos);
   }
   return resultado;
 }
 
 }  // namespace
+
+std::optional<std::string> ejecutarComandos(std::span<ComandoDeApertura const> comandos,
+                                            Ejecutor const& ejecutor, Textos const& textos) {
+  for (auto const& comando : comandos) {
+    if (auto falla = fallaAlCorrer(comando, ejecutor, textos)) return falla;
+  }
+  return std::nullopt;
+}
 
 std::string descripcionDe(FalloDeApertura const& fallo) {
   if (auto const* nuestro = std::get_if<IndexError>(&fallo)) return nuestro->mensaje;

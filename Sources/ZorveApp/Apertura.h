@@ -2,6 +2,7 @@
 
 #include <expected>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "ZorveApp/Textos.h"
@@ -34,6 +35,11 @@ struct ResultadoDeApertura {
 /// Asks the catalogue; what its functions throw becomes a failure. Any thread but the main one.
 [[nodiscard]] std::expected<TerminalResuelta, FalloDeApertura> resolverTerminal(
     CatalogoDeTerminales const& catalogo);
+
+/// Runs `comandos` one after another up to the first that fails; the text of that failure, or nothing. Any
+/// thread but the main one.
+[[nodiscard]] std::optional<std::string> ejecutarComandos(std::span<ComandoDeApertura const> comandos,
+                                                          Ejecutor const& ejecutor, Textos const& textos);
 
 /// The one-line description of a failure.
 [[nodiscard]] std::string descripcionDe(FalloDeApertura const& fallo);

@@ -1,5 +1,4 @@
-#include "ZorveApp/Textos.h"
-#include "ZorveCore/Texto.h"
+#include "ZorveApp/Apertura.h"
 #include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
 #include "zorvectl/Objetivo.h"
 #include "zorvectl/Ordenes.h"
@@ -10,25 +9,15 @@ namespace zorve::ctl {
 
 namespace {
 
-/// Runs `comando`; when it fails, the line that says so.
-std::optional<std::string> fallaAlCorrer(ComandoDeApertura const& comando) {
-  Textos const textos{Idioma::en};
-  auto const corrida = EjecutorDeProcesos{}.correr(comando.ejecutable, comando.args);
-  if (!corrida) return textos.noSePudoLanzar(comando.ejecutable, corrida.error().descripcion);
-  if (corrida->codigo == 0) return std::nullopt;
-  auto const salida = recortar(corrida->salida);
-  return textos.comandoFallo(comando.ejecutable, corrida->codigo, salida.empty() ? textos.sinSalida : salida);
-}
-
 void abrir(Contexto& contexto, Objetivo const& objetivo) {
   auto const hecho = planear(contexto, objetivo);
   if (!hecho) return terminarCon(contexto, hecho.error().codigo, hecho.error().linea);
   if (auto const* sinEnfoque = std::get_if<NoSePuedeEnfocar>(&hecho->plan)) {
     return terminarCon(contexto, Contexto::fallo, avisoSinEnfoque(contexto, *sinEnfoque, *hecho->terminal));
   }
-  for (auto const& comando : std::get<std::vector<ComandoDeApertura>>(hecho->plan)) {
-    if (auto const falla = fallaAlCorrer(comando)) return terminarCon(contexto, Contexto::fallo, *falla);
-  }
+  auto const falla = ejecutarComandos(std::get<std::vector<ComandoDeApertura>>(hecho->plan),
+                                      EjecutorDeProcesos{}, Textos{Idioma::en});
+  if (falla) terminarCon(contexto, Contexto::fallo, *falla);
 }
 
 }  // namespace
