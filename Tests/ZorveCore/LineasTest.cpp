@@ -88,7 +88,7 @@ std::string alAzar(std::mt19937& azar) {
 
 TEST(Lineas, deByteEnByteEsLoMismoQueEntero) {
   std::mt19937 azar{7};
-  for (int vez = 0; vez < 200; ++vez) {
+  for (int vez = 0; vez < 60; ++vez) {
     auto const contenido = alAzar(azar);
     for (std::size_t const tope : {sinTope, 20UZ, 0UZ}) {
       dobles::ArchivosDeMemoria archivos;
