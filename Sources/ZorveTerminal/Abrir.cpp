@@ -2,11 +2,12 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
-#include <optional>
 
 #include "ZorveCore/Escape.h"
-#include "ZorvePlatform/Linux/BuscarPrograma.h"
+#include "ZorvePlatform/Linux/AplicacionesLinux.h"
+#include "ZorvePlatform/Linux/EntornoLinux.h"
 #include "ZorveTerminal/Entorno.h"
 #include "ZorveTerminal/GuionDeShell.h"
 
@@ -20,8 +21,11 @@ constexpr std::chrono::milliseconds plazoDelArranque{2500};
 class Senal {
  public:
   explicit Senal(std::string const& carpeta) {
-    std::string plantilla = (carpeta.starts_with('/') ? carpeta : "/tmp") + "/zorve-XXXXXX";
-    if (::mkdtemp(plantilla.data()) != nullptr) ruta_ = plantilla;
+    for (auto const& lugar : {carpeta, std::string{"/tmp"}}) {
+      std::string plantilla = lugar + "/zorve-XXXXXX";
+      if (!ruta_.empty() || !lugar.starts_with('/')) continue;
+      if (::mkdtemp(plantilla.data()) != nullptr) ruta_ = plantilla;
+    }
   }
   Senal(Senal const&) = delete;
   Senal& operator=(Senal const&) = delete;
@@ -34,11 +38,18 @@ class Senal {
   std::string ruta_;
 };
 
-std::optional<std::string> programaDe(FichaDeTerminal const& ficha, LugaresDeProgramas const& lugares) {
+bool esDe(FichaDeTerminal const& ficha, std::string const& ruta) {
+  return std::ranges::find(ficha.programas, ruta.substr(ruta.rfind('/') + 1)) != ficha.programas.end();
+}
+
+/// The terminal's executable, or the empty text.
+std::string programaDe(FichaDeTerminal const& ficha, EntornoLinux const& lugares) {
   for (auto const& nombre : ficha.programas) {
-    if (auto ruta = buscarPrograma(nombre, lugares)) return ruta;
+    if (auto ruta = ejecutableEn(lugares, nombre); !ruta.empty()) return ruta;
   }
-  return programaDeLaEntrada(ficha.entradaDeEscritorio, ficha.programas, lugares);
+  auto const& entrada = ficha.entradaDeEscritorio;
+  auto ruta = programaDeLaEntrada(lugares, entrada.substr(0, entrada.rfind('.')));
+  return esDe(ficha, ruta) ? ruta : std::string{};
 }
 
 }  // namespace
@@ -58,17 +69,16 @@ std::vector<std::string> argumentosDe(FichaDeTerminal const& ficha,
 
 std::expected<void, FinTemprano> abrir(FichaDeTerminal const& ficha, std::string const& directorio,
                                        std::string const& comando, std::span<std::string const> entorno) {
-  auto const lugares =
-      lugaresDeProgramas([&](std::string const& nombre) { return valorEn(entorno, nombre); });
-  auto const programa = programaDe(ficha, lugares);
-  if (!programa) return std::unexpected{FinTemprano{127, ficha.nombre + " is not installed"}};
+  auto const casa = casaDeLaPersona(entorno);
+  auto const programa = programaDe(ficha, EntornoLinux::delProceso(casa));
+  if (programa.empty()) return std::unexpected{FinTemprano{127, ficha.nombre + " is not installed"}};
   Senal const senal{valorEn(entorno, "XDG_RUNTIME_DIR")};
   auto const palabras = palabrasDelGuion(
       {directorio, comando, shellDeLaPersona(entorno), valorEn(entorno, "HOME"), senal.ruta()});
-  return lanzar({.ejecutable = *programa,
+  return lanzar({.ejecutable = programa,
                  .args = argumentosDe(ficha, palabras),
                  .entorno = entornoLimpio(entorno),
-                 .directorio = casaDeLaPersona(entorno),
+                 .directorio = casa,
                  .senal = senal.ruta()},
                 plazoDelArranque);
 }

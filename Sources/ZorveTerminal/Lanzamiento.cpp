@@ -16,6 +16,8 @@
 #include <cstring>
 #include <system_error>
 
+#include "ZorvePlatform/Posix/Descriptor.h"
+
 namespace zorve {
 
 namespace {
@@ -23,20 +25,6 @@ namespace {
 using Reloj = std::chrono::steady_clock;
 
 constexpr std::size_t maximoDePalabras = 4096;
-
-class Descriptor {
- public:
-  explicit Descriptor(int valor) : valor_{valor} {}
-  Descriptor(Descriptor const&) = delete;
-  Descriptor& operator=(Descriptor const&) = delete;
-  ~Descriptor() {
-    if (valor_ >= 0) ::close(valor_);
-  }
-  [[nodiscard]] int valor() const { return valor_; }
-
- private:
-  int valor_;
-};
 
 std::vector<char*> punteros(std::vector<std::string>& textos) {
   std::vector<char*> resultado;
@@ -130,18 +118,18 @@ std::expected<void, FinTemprano> lanzar(Lanzamiento const& lanzamiento, std::chr
   Descriptor const salida{::memfd_create("zorve-terminal", MFD_CLOEXEC)};
   Descriptor const vigia{::inotify_init1(IN_CLOEXEC | IN_NONBLOCK)};
   auto const vigila = !lanzamiento.senal.empty() &&
-                      ::inotify_add_watch(vigia.valor(), lanzamiento.senal.c_str(), IN_DELETE_SELF) >= 0;
+                      ::inotify_add_watch(vigia.numero(), lanzamiento.senal.c_str(), IN_DELETE_SELF) >= 0;
   pid_t pid = 0;
-  if (int const codigo = empezar(lanzamiento, salida.valor(), pid); codigo != 0) {
+  if (int const codigo = empezar(lanzamiento, salida.numero(), pid); codigo != 0) {
     return std::unexpected{
         FinTemprano{127, programa + " could not be started: " + std::generic_category().message(codigo)}};
   }
   Descriptor const proceso{static_cast<int>(::syscall(SYS_pidfd_open, pid, 0))};
-  if (esperarLaSenal(proceso.valor(), vigila ? vigia.valor() : -1, limite)) return {};
+  if (esperarLaSenal(proceso.numero(), vigila ? vigia.numero() : -1, limite)) return {};
   int estado = 0;
   if (::waitpid(pid, &estado, WNOHANG) != pid) return {};
   if (WIFEXITED(estado) && WEXITSTATUS(estado) == 0) return {};
-  return std::unexpected{finDe(programa, estado, salida.valor())};
+  return std::unexpected{finDe(programa, estado, salida.numero())};
 }
 
 }  // namespace zorve

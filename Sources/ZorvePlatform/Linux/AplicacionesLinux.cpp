@@ -18,18 +18,19 @@ AplicacionesLinux::AplicacionesLinux(EntornoLinux entorno) : entorno_{std::move(
 
 bool AplicacionesLinux::hay(std::string const& identificador) const {
   if (identificador.empty() || identificador.contains('/') || identificador.contains('\0')) return false;
-  return !ejecutableEn(entorno_, identificador).empty() || hayEntrada(identificador);
+  return !ejecutableEn(entorno_, identificador).empty() ||
+         !programaDeLaEntrada(entorno_, identificador).empty();
 }
 
-bool AplicacionesLinux::hayEntrada(std::string const& identificador) const {
-  for (auto const& datos : entorno_.datos) {
+std::string programaDeLaEntrada(EntornoLinux const& entorno, std::string const& identificador) {
+  for (auto const& datos : entorno.datos) {
     auto const texto =
         leerArchivo(unirRuta(unirRuta(datos, "applications"), identificador + ".desktop"), topeDeEntrada);
     if (!texto) continue;
     auto const entrada = leerEntradaDeEscritorio(*texto);
-    return !entrada.oculta && !ejecutableEn(entorno_, entrada.tryExec.value_or(entrada.programa)).empty();
+    return entrada.oculta ? std::string{} : ejecutableEn(entorno, entrada.tryExec.value_or(entrada.programa));
   }
-  return false;
+  return {};
 }
 
 }  // namespace zorve

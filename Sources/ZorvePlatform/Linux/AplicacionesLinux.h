@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "ZorveCore/AplicacionesInstaladas.h"
 #include "ZorvePlatform/Linux/EntornoLinux.h"
 
@@ -14,9 +16,11 @@ class AplicacionesLinux final : public AplicacionesInstaladas {
   [[nodiscard]] bool hay(std::string const& identificador) const override;
 
  private:
-  [[nodiscard]] bool hayEntrada(std::string const& identificador) const;
-
   EntornoLinux entorno_;
 };
+
+/// The absolute path of the program that the desktop entry `identificador` (its file name without ".desktop")
+/// starts; empty when there is no such entry, it is hidden, or its program does not exist.
+[[nodiscard]] std::string programaDeLaEntrada(EntornoLinux const& entorno, std::string const& identificador);
 
 }  // namespace zorve

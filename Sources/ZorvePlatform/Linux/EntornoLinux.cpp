@@ -48,6 +48,7 @@ EntornoLinux EntornoLinux::delProceso(std::string const& home) {
   EntornoLinux entorno;
   entorno.home = home;
   entorno.path = absolutasO(variable("PATH"), "/usr/local/bin:/usr/bin:/bin");
+  if (home.starts_with('/')) entorno.path.push_back(unirRuta(home, ".local/bin"));
   entorno.configHome = absolutaO(variable("XDG_CONFIG_HOME"), unirRuta(home, ".config"));
   entorno.datos = absolutasO(variable("XDG_DATA_DIRS"), "/usr/local/share:/usr/share");
   entorno.datos.insert(entorno.datos.begin(),

@@ -9,7 +9,8 @@ namespace zorve {
 /// environment do not count.
 struct EntornoLinux {
   std::string home;
-  /// Where executables are looked for, in order.
+  /// Where executables are looked for, in order: PATH, and .local/bin of the home, which a process started by
+  /// a desktop often misses.
   std::vector<std::string> path;
   std::string configHome;
   /// Where applications leave their data, the user's own first.

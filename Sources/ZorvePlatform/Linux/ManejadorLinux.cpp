@@ -2,20 +2,35 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <filesystem>
 #include <utility>
+#include <vector>
 
+#include "ZorveCore/Archivos.h"
 #include "ZorveCore/CatalogoDeTerminales.h"
 #include "ZorveCore/FichaDeTerminal.h"
+#include "ZorvePlatform/Linux/ProgramaAcotado.h"
+#include "ZorvePlatform/Posix/LeerArchivo.h"
 
 namespace zorve {
 
 namespace {
 
+constexpr std::size_t topeDeAjustes = 1U << 20U;
 constexpr std::string_view envoltura = ".wrapper";
+
+constexpr std::array todasLasFuentes{FuenteDelManejador::xdgTerminalExec, FuenteDelManejador::kdeglobals,
+                                     FuenteDelManejador::gsettings, FuenteDelManejador::terminal,
+                                     FuenteDelManejador::enlace};
 
 /// Scripts of the package xterm that start xterm with another character set.
 constexpr std::array<std::string_view, 3> variantesDeXterm{"lxterm", "uxterm", "koi8rxterm"};
+
+std::string variable(char const* nombre) {
+  char const* valor = std::getenv(nombre);  // NOLINT(concurrency-mt-unsafe): contract of delProceso
+  return valor == nullptr ? std::string{} : std::string{valor};
+}
 
 std::string_view nombreDelPrograma(std::string_view ruta) {
   ruta.remove_prefix(ruta.rfind('/') + 1);
@@ -23,21 +38,147 @@ std::string_view nombreDelPrograma(std::string_view ruta) {
   return std::ranges::find(variantesDeXterm, ruta) == variantesDeXterm.end() ? ruta : "xterm";
 }
 
+std::string_view sinBlancos(std::string_view texto) {
+  auto const inicio = texto.find_first_not_of(" \t\r\n");
+  if (inicio == std::string_view::npos) return {};
+  return texto.substr(inicio, texto.find_last_not_of(" \t\r\n") - inicio + 1);
+}
+
+std::optional<std::string> terminalDeLaOrden(std::string_view orden) {
+  orden = sinBlancos(orden);
+  return terminalDelPrograma(orden.substr(0, orden.find_first_of(" \t")));
+}
+
+std::optional<std::string> correr(LugaresDelManejador const& lugares, std::string const& programa,
+                                  std::vector<std::string> const& args) {
+  auto const ruta = ejecutableEn(lugares.entorno, programa);
+  return ruta.empty() ? std::nullopt : salidaDe(ruta, args, lugares.plazo);
+}
+
+std::optional<std::string> segunXdgTerminalExec(LugaresDelManejador const& lugares) {
+  auto const salida = correr(lugares, "xdg-terminal-exec", {"--print-id"});
+  return salida ? terminalDeLaEntrada(sinBlancos(*salida)) : std::nullopt;
+}
+
+/// The value of a key in a group of an ini-like text, without the markers in brackets behind keys.
+std::string_view valorEnGrupo(std::string_view texto, std::string_view grupo, std::string_view clave) {
+  bool dentro = false;
+  while (!texto.empty()) {
+    auto const largo = std::min(texto.find('\n'), texto.size());
+    auto const linea = sinBlancos(texto.substr(0, largo));
+    texto.remove_prefix(std::min(largo + 1, texto.size()));
+    if (linea.starts_with('[')) dentro = linea == grupo;
+    auto const igual = linea.find('=');
+    if (!dentro || igual == std::string_view::npos) continue;
+    if (sinBlancos(linea.substr(0, std::min(igual, linea.find('[')))) == clave) {
+      return sinBlancos(linea.substr(igual + 1));
+    }
+  }
+  return {};
+}
+
+std::optional<std::string> segunKdeglobals(LugaresDelManejador const& lugares) {
+  auto const texto = leerArchivo(unirRuta(lugares.entorno.configHome, "kdeglobals"), topeDeAjustes);
+  if (!texto) return std::nullopt;
+  return terminalDeLaOrden(valorEnGrupo(*texto, "[General]", "TerminalApplication"));
+}
+
+std::string esquemaDe(std::string const& escritorio) {
+  if (escritorio.contains("Cinnamon")) return "org.cinnamon.desktop.default-applications.terminal";
+  if (escritorio.contains("MATE")) return "org.mate.applications-terminal";
+  return "org.gnome.desktop.default-applications.terminal";
+}
+
+std::optional<std::string> segunGsettings(LugaresDelManejador const& lugares) {
+  auto const salida = correr(lugares, "gsettings", {"get", esquemaDe(lugares.escritorio), "exec"});
+  if (!salida) return std::nullopt;
+  auto valor = sinBlancos(*salida);
+  auto const comilla = valor.substr(0, 1);
+  if (valor.size() < 2 || (comilla != "'" && comilla != "\"") || !valor.ends_with(comilla)) {
+    return std::nullopt;
+  }
+  return terminalDeLaOrden(valor.substr(1, valor.size() - 2));
+}
+
+std::optional<std::string> segunEnlace(LugaresDelManejador const& lugares) {
+  std::error_code error;
+  auto const destino = std::filesystem::read_symlink(lugares.enlace, error);
+  return error ? std::nullopt : terminalDelPrograma(destino.native());
+}
+
 }  // namespace
 
-ManejadorLinux::ManejadorLinux(std::string enlace) : enlace_{std::move(enlace)} {}
+LugaresDelManejador LugaresDelManejador::delProceso(EntornoLinux entorno) {
+  return {.entorno = std::move(entorno),
+          .escritorio = variable("XDG_CURRENT_DESKTOP"),
+          .terminal = variable("TERMINAL")};
+}
+
+ManejadorLinux::ManejadorLinux()
+    : ManejadorLinux{LugaresDelManejador::delProceso(EntornoLinux::delProceso(variable("HOME")))} {}
+
+ManejadorLinux::ManejadorLinux(LugaresDelManejador lugares) : lugares_{std::move(lugares)} {}
+
+ManejadorLinux::ManejadorLinux(std::string enlace)
+    : ManejadorLinux{LugaresDelManejador{.enlace = std::move(enlace)}} {}
 
 std::optional<std::string> ManejadorLinux::aplicacionPara(std::string_view tipo) const {
   if (tipo != CatalogoDeTerminales::tipoDeGuionDeShell) return std::nullopt;
-  std::error_code error;
-  auto const destino = std::filesystem::read_symlink(enlace_, error);
-  return error ? std::nullopt : terminalDelPrograma(destino.native());
+  auto hallada = buscar();
+  return hallada ? std::optional{std::move(hallada->identificador)} : std::nullopt;
+}
+
+std::optional<TerminalDelSistema> ManejadorLinux::buscar() const {
+  for (auto const fuente : todasLasFuentes) {
+    if (auto identificador = segun(fuente)) return TerminalDelSistema{std::move(*identificador), fuente};
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> ManejadorLinux::segun(FuenteDelManejador fuente) const {
+  switch (fuente) {
+    case FuenteDelManejador::xdgTerminalExec:
+      return segunXdgTerminalExec(lugares_);
+    case FuenteDelManejador::kdeglobals:
+      return segunKdeglobals(lugares_);
+    case FuenteDelManejador::gsettings:
+      return segunGsettings(lugares_);
+    case FuenteDelManejador::terminal:
+      return terminalDeLaOrden(lugares_.terminal);
+    case FuenteDelManejador::enlace:
+      return segunEnlace(lugares_);
+  }
+  return std::nullopt;
+}
+
+std::string_view nombreDe(FuenteDelManejador fuente) {
+  switch (fuente) {
+    case FuenteDelManejador::xdgTerminalExec:
+      return "xdg-terminal-exec";
+    case FuenteDelManejador::kdeglobals:
+      return "kdeglobals";
+    case FuenteDelManejador::gsettings:
+      return "gsettings";
+    case FuenteDelManejador::terminal:
+      return "$TERMINAL";
+    case FuenteDelManejador::enlace:
+      return "x-terminal-emulator";
+  }
+  return {};
 }
 
 std::optional<std::string> terminalDelPrograma(std::string_view ruta) {
   auto const nombre = nombreDelPrograma(ruta);
   for (auto const& ficha : fichasDeLinux()) {
     if (std::ranges::find(ficha.programas, nombre) != ficha.programas.end()) return ficha.identificador;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> terminalDeLaEntrada(std::string_view entrada) {
+  entrada = entrada.substr(0, entrada.find(':'));
+  for (auto const& ficha : fichasDeLinux()) {
+    if (ficha.entradaDeEscritorio == entrada) return ficha.identificador;
   }
   return std::nullopt;
 }
