@@ -11,7 +11,7 @@ bool BanderasDeUsuario::bandera(std::string const& clave) const {
 }
 
 void BanderasDeUsuario::marcar(std::string const& clave) {
-  static_cast<void>(defaults_.escribir(clave, true));
+  [[maybe_unused]] auto const guardada = defaults_.escribir(clave, true);
 }
 
 bool PrimerArranque::debeMostrarElPanel() const {

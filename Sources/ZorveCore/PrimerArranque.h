@@ -20,7 +20,7 @@ class AlmacenDeBanderas {
 };
 
 /// Flags among the user's settings. Settings that cannot be read count as marked: whoever asks "is this the
-/// first time?" is told no.
+/// first time?" is told no. A flag that cannot be stored is asked for again at the next start.
 class BanderasDeUsuario final : public AlmacenDeBanderas {
  public:
   /// `defaults` outlives this object.
