@@ -11,8 +11,9 @@ namespace zorve {
 
 namespace {
 
-constexpr Aguja agujaTitulo{TranscriptScanner::agujaAITitle, 1};
-constexpr Aguja agujaDirectorio{TranscriptScanner::agujaCwd, 1};
+constexpr Aguja agujaTitulo{TranscriptScanner::agujaAITitle, 0, 2};
+constexpr Aguja agujaDirectorio{TranscriptScanner::agujaCwd, 1, 2};
+constexpr Aguja finDeLinea{"\n", 0, 0};
 constexpr std::string_view blancos = " \t\r";
 
 /// A piece cut at a window's edge shows it at its ends; decoding it would fail after more work.
@@ -34,7 +35,8 @@ std::expected<TranscriptScanner::Cabecera, FalloDelSistema> LectorDeCabeceras::l
   if (paso) paso = completar(cabecera);
   if (paso && inicio > 0 && !(cabecera.aiTitle && cabecera.cwd)) {
     ventana_.mirar(**archivo, 0, TranscriptScanner::ventanaBytes);
-    paso = completar(cabecera);
+    if (!cabecera.aiTitle) paso = ventana_.leerEntera();
+    if (paso) paso = completar(cabecera);
   }
   if (!paso) return std::unexpected{paso.error()};
   return cabecera;
@@ -128,8 +130,8 @@ LectorDeCabeceras::PiezaHallada LectorDeCabeceras::piezaHaciaAtras(std::size_t l
   auto visto = lugar;
   while (true) {
     auto const desde = ventana_.detras();
-    auto const anterior = ventana_.trozo(desde, visto).rfind('\n');
-    if (anterior != std::string_view::npos) return Pieza{desde + anterior + 1, hasta};
+    auto const anterior = finDeLinea.ultima(ventana_.trozo(desde, visto));
+    if (anterior != Aguja::nada) return Pieza{desde + anterior + 1, hasta};
     if (desde == 0) return Pieza{0, hasta};
     visto = desde;
     if (auto const paso = ventana_.masDetras(); !paso) return std::unexpected{paso.error()};
@@ -137,8 +139,8 @@ LectorDeCabeceras::PiezaHallada LectorDeCabeceras::piezaHaciaAtras(std::size_t l
 }
 
 LectorDeCabeceras::PiezaHallada LectorDeCabeceras::piezaHaciaDelante(std::size_t lugar, std::size_t desde) {
-  auto const anterior = ventana_.trozo(desde, lugar).rfind('\n');
-  auto const principio = anterior == std::string_view::npos ? desde : desde + anterior + 1;
+  auto const anterior = finDeLinea.ultima(ventana_.trozo(desde, lugar));
+  auto const principio = anterior == Aguja::nada ? desde : desde + anterior + 1;
   auto visto = lugar;
   while (true) {
     auto const hasta = ventana_.delante();

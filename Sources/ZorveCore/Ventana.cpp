@@ -7,13 +7,13 @@ namespace zorve {
 
 namespace {
 
-constexpr std::size_t pasoCorto = 8'192;
-constexpr std::size_t pasoLargo = 65'536;
-/// What titles and directories are usually found within.
+/// Titles and directories are usually found near the window's ends. Steps end at multiples of their length
+/// in the file, so that no page of it is fetched for a few bytes only.
 constexpr std::size_t cerca = 49'152;
+constexpr std::int64_t pasoCorto = 4'096;
+constexpr std::int64_t pasoLargoDelante = 32'768;
+constexpr std::int64_t pasoLargoDetras = 262'144;
 constexpr std::size_t capacidadUsual = 262'144 + RegistroJson::margen;
-
-std::size_t pasoTras(std::size_t leidos) { return leidos < cerca ? pasoCorto : pasoLargo; }
 
 }  // namespace
 
@@ -71,7 +71,9 @@ void Ventana::cerrarElHueco() {
 }
 
 Ventana::Paso Ventana::masDelante() {
-  auto const hasta = std::min(delante_ + pasoTras(delante_), detras_);
+  auto const paso = delante_ < cerca ? pasoCorto : pasoLargoDelante;
+  auto const lugar = inicio_ + static_cast<std::int64_t>(delante_);
+  auto const hasta = std::min(static_cast<std::size_t>(lugar / paso * paso + paso - inicio_), detras_);
   auto const leido = leer(delante_, hasta);
   if (leido) delante_ = hasta;
   cerrarElHueco();
@@ -79,10 +81,11 @@ Ventana::Paso Ventana::masDelante() {
 }
 
 Ventana::Paso Ventana::masDetras() {
-  auto const paso = pasoTras(largo_ - detras_);
-  auto const desde = detras_ - std::min(paso, detras_ - delante_);
-  auto const leido = leer(desde, detras_);
-  if (leido) detras_ = desde;
+  auto const paso = largo_ - detras_ < cerca ? pasoCorto : pasoLargoDetras;
+  auto const lugar = inicio_ + static_cast<std::int64_t>(detras_);
+  auto const desde = std::max((lugar - 1) / paso * paso - inicio_, static_cast<std::int64_t>(delante_));
+  auto const leido = leer(static_cast<std::size_t>(desde), detras_);
+  if (leido) detras_ = static_cast<std::size_t>(desde);
   cerrarElHueco();
   return leido;
 }

@@ -8,8 +8,8 @@
 namespace zorve {
 namespace {
 
-constexpr Aguja titulo{"aiTitle", 1};
-constexpr Aguja directorio{"\"cwd\"", 1};
+constexpr Aguja titulo{"aiTitle", 0, 2};
+constexpr Aguja directorio{"\"cwd\"", 1, 2};
 
 void buscaComoElTexto(Aguja const& aguja, std::string_view texto, std::string_view bloque,
                       std::size_t desde) {
@@ -40,6 +40,16 @@ TEST(Aguja, entreVariasDaLaPrimeraYLaUltima) {
   EXPECT_EQ(titulo.primera(bloque), 2U);
   EXPECT_EQ(titulo.primera(bloque, 3), 309U);
   EXPECT_EQ(titulo.ultima(bloque), 316U);
+}
+
+TEST(Aguja, unSoloByteTambienSeHalla) {
+  constexpr Aguja finDeLinea{"\n", 0, 0};
+  std::string const bloque =
+      std::string(100, 'x') + "\n" + std::string(100, 'x') + "\n" + std::string(90, 'x');
+  EXPECT_EQ(finDeLinea.primera(bloque), 100U);
+  EXPECT_EQ(finDeLinea.ultima(bloque), 201U);
+  EXPECT_EQ(finDeLinea.ultima("\n"), 0U);
+  EXPECT_EQ(finDeLinea.ultima("x"), Aguja::nada);
 }
 
 TEST(Aguja, detrasDelFinNoHayNada) {
