@@ -8,8 +8,8 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-/// Lines in rounded cards, wrapped and never cut, one under the other; no height without lines. Past 200 points
-/// it scrolls.
+/// Lines in rounded cards, wrapped and never cut, one under the other; no height without lines. Past 200
+/// points it scrolls.
 @interface BandaDeAvisos : NSScrollView
 - (void)mostrar:(std::vector<zorve::LineaDeBanda> const&)lineas;
 @end

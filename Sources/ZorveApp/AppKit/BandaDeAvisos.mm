@@ -58,11 +58,12 @@ constexpr CGFloat entreTarjetas = 6;
   _lineas = lineas;
   NSMutableArray<NSView*>* const tarjetas = [NSMutableArray array];
   for (auto const& linea : lineas) {
-    [tarjetas addObject:[[TarjetaDeAviso alloc] initConLinea:linea
-                                                       ancho:Medidas::panel.ancho - 2 * Medidas::margenDeBanda]];
+    [tarjetas
+        addObject:[[TarjetaDeAviso alloc] initConLinea:linea
+                                                 ancho:Medidas::panel.ancho - 2 * Medidas::margenDeBanda]];
   }
-  _columna.edgeInsets = NSEdgeInsetsMake(lineas.empty() ? 0 : Medidas::margenDeBanda, Medidas::margenDeBanda, 0,
-                                         Medidas::margenDeBanda);
+  _columna.edgeInsets = NSEdgeInsetsMake(lineas.empty() ? 0 : Medidas::margenDeBanda, Medidas::margenDeBanda,
+                                         0, Medidas::margenDeBanda);
   [_columna setViews:tarjetas inGravity:NSStackViewGravityTop];
   CGFloat const entero = lineas.empty() ? 0 : _columna.fittingSize.height;
   _alto.constant = std::min(entero, altoMaximo);

@@ -24,17 +24,15 @@ NSTextField* rotuloDe(std::string_view texto, NSFont* letra, zorve::Color const&
   return campo;
 }
 
-NSTextField* rotuloDeGrupo(std::string_view texto) {
-  NSFont* const letra = [NSFont systemFontOfSize:Medidas::letraDeRotulo weight:NSFontWeightMedium];
-  NSTextField* const campo = rotuloDe(texto, letra, Estilo::textoDebil);
-  campo.attributedStringValue = [[NSAttributedString alloc]
-      initWithString:zorve::cadena(texto)
-          attributes:@{
-            NSFontAttributeName : letra,
-            NSForegroundColorAttributeName : zorve::colorLegible(Estilo::textoDebil),
-            NSKernAttributeName : @1.1,
-          }];
-  return campo;
+NSFont* letraDeGrupo() { return [NSFont systemFontOfSize:Medidas::letraDeRotulo weight:NSFontWeightMedium]; }
+
+NSAttributedString* espaciado(std::string_view texto) {
+  NSDictionary<NSAttributedStringKey, id>* const como = @{
+    NSFontAttributeName : letraDeGrupo(),
+    NSForegroundColorAttributeName : zorve::colorLegible(Estilo::textoDebil),
+    NSKernAttributeName : @1.1,
+  };
+  return [[NSAttributedString alloc] initWithString:zorve::cadena(texto) attributes:como];
 }
 
 }  // namespace
@@ -55,9 +53,11 @@ NSTextField* rotuloDeGrupo(std::string_view texto) {
   zorve::VistaAjustes* _valores;
   zorve::ModeloDeAjustes* _modelo;
   ColumnaDeAjustes* _columna;
-  /// Option rows, kept from one drawing to the next: the keyboard's focus stays where it is.
+  /// Rows and captions are kept from one drawing to the next: the keyboard's focus stays where it is.
   NSMutableArray<FilaDeOpcion*>* _opciones;
-  NSUInteger _usadas;
+  NSMutableArray<NSTextField*>* _rotulos;
+  NSUInteger _opcionesUsadas;
+  NSUInteger _rotulosUsados;
 }
 
 - (instancetype)initConValores:(zorve::VistaAjustes&)valores modelo:(zorve::ModeloDeAjustes&)modelo {
@@ -65,6 +65,7 @@ NSTextField* rotuloDeGrupo(std::string_view texto) {
     _valores = &valores;
     _modelo = &modelo;
     _opciones = [NSMutableArray array];
+    _rotulos = [NSMutableArray array];
     _columna = [[ColumnaDeAjustes alloc] initWithFrame:NSZeroRect];
     _columna.orientation = NSUserInterfaceLayoutOrientationVertical;
     _columna.alignment = NSLayoutAttributeLeading;
@@ -84,7 +85,8 @@ NSTextField* rotuloDeGrupo(std::string_view texto) {
 }
 
 - (void)actualizar {
-  _usadas = 0;
+  _opcionesUsadas = 0;
+  _rotulosUsados = 0;
   NSMutableArray<NSView*>* const vistas = [NSMutableArray array];
   if (auto const banda = _valores->banda()) {
     [vistas addObject:[[TarjetaDeAviso alloc] initConLinea:{zorve::LineaDeBanda::Clase::error, *banda}
@@ -110,7 +112,7 @@ NSTextField* rotuloDeGrupo(std::string_view texto) {
                                Estilo::textoTenue)];
   }
   for (auto const& grupo : contenido.grupos) {
-    if (!grupo.titulo.empty()) [vistas addObject:rotuloDeGrupo(grupo.titulo)];
+    if (!grupo.titulo.empty()) [vistas addObject:[self rotuloCon:espaciado(grupo.titulo)]];
     for (auto const& opcion : grupo.opciones) {
       FilaDeOpcion* const fila = [self filaLibre];
       [fila mostrar:opcion];
@@ -133,13 +135,22 @@ NSTextField* rotuloDeGrupo(std::string_view texto) {
                              Estilo::textoTenue)];
 }
 
+- (NSTextField*)rotuloCon:(NSAttributedString*)texto {
+  if (_rotulosUsados == _rotulos.count) {
+    [_rotulos addObject:zorve::rotulo(letraDeGrupo(), Estilo::textoDebil)];
+  }
+  NSTextField* const rotulo = _rotulos[_rotulosUsados++];
+  rotulo.attributedStringValue = texto;
+  return rotulo;
+}
+
 - (FilaDeOpcion*)filaLibre {
-  if (_usadas == _opciones.count) {
+  if (_opcionesUsadas == _opciones.count) {
     FilaDeOpcion* const nueva = [[FilaDeOpcion alloc] initWithFrame:NSZeroRect];
     [nueva.widthAnchor constraintEqualToConstant:ancho].active = YES;
     [_opciones addObject:nueva];
   }
-  return _opciones[_usadas++];
+  return _opciones[_opcionesUsadas++];
 }
 
 @end

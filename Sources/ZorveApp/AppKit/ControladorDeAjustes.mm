@@ -17,7 +17,8 @@ namespace Medidas = zorve::Medidas;
   VistaDeAjustes* _vista;
 }
 
-- (instancetype)initConModelo:(zorve::ModeloDeAjustes&)modelo idioma:(zorve::PreferenciaDeIdioma const&)idioma {
+- (instancetype)initConModelo:(zorve::ModeloDeAjustes&)modelo
+                       idioma:(zorve::PreferenciaDeIdioma const&)idioma {
   if ((self = [super init])) {
     _modelo = &modelo;
     _idioma = &idioma;
@@ -45,8 +46,8 @@ namespace Medidas = zorve::Medidas;
   NSRect const marco = NSMakeRect(0, 0, Medidas::ajustes.ancho, Medidas::ajustes.alto);
   _ventana = [[VentanaDeAjustes alloc]
       initWithContentRect:marco
-                styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable | NSWindowStyleMaskMiniaturizable |
-                          NSWindowStyleMaskFullSizeContentView
+                styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable |
+                          NSWindowStyleMaskMiniaturizable | NSWindowStyleMaskFullSizeContentView
                   backing:NSBackingStoreBuffered
                     defer:NO];
   _ventana.title = zorve::cadena(zorve::VistaAjustes::tituloDeLaVentana);

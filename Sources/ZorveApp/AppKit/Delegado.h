@@ -24,8 +24,8 @@ struct ColaboradoresDelDelegado {
 
 }  // namespace zorve
 
-/// The application's delegate: the status item, the popover under it, its menu, the settings window. The rules
-/// (which click does what, when the panel shows by itself) are ItemDeEstado's.
+/// The application's delegate: the status item, the popover under it, its menu, the settings window. The
+/// rules (which click does what, when the panel shows by itself) are ItemDeEstado's.
 @interface Delegado : NSObject <NSApplicationDelegate>
 - (instancetype)initCon:(zorve::ColaboradoresDelDelegado const&)con;
 - (instancetype)init NS_UNAVAILABLE;

@@ -7,6 +7,7 @@
 #import "ZorveApp/AppKit/ControladorDelPanel.h"
 #import "ZorveApp/AppKit/MarcaDeBarra.h"
 #import "ZorveApp/AppKit/MenuDeEdicion.h"
+#include "ZorveApp/Estilo.h"
 #include "ZorvePlatform/MacOS/Cadenas.h"
 
 namespace {

@@ -84,7 +84,8 @@ constexpr CGFloat xDelTitulo = 40;
 }
 
 - (void)drawRect:(NSRect)sucio {
-  zorve::tarjeta(self.bounds, Medidas::radioDeOpcion, _marcada ? Estilo::filaSeleccionada : Estilo::fondoDeOpcion,
+  zorve::tarjeta(self.bounds, Medidas::radioDeOpcion,
+                 _marcada ? Estilo::filaSeleccionada : Estilo::fondoDeOpcion,
                  _marcada ? Estilo::contornoDeFila : Estilo::linea);
 }
 

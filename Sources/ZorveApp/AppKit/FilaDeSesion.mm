@@ -12,9 +12,7 @@ namespace {
 constexpr CGFloat arriba = 10;
 constexpr CGFloat entreColumnas = 12;
 
-NSString* cadenaDe(std::optional<std::string> const& texto) {
-  return texto ? zorve::cadena(*texto) : @"";
-}
+NSString* cadenaDe(std::optional<std::string> const& texto) { return texto ? zorve::cadena(*texto) : @""; }
 
 /// " · working" beside the path; nothing for a finished session.
 NSString* palabraDe(zorve::Fila const& fila) {

@@ -6,7 +6,8 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-/// The rows, made as they come into sight, or the words that stand in their place. It never takes the keyboard.
+/// The rows, made as they come into sight, or the words that stand in their place. It never takes the
+/// keyboard.
 @interface ListaDeSesiones : NSView <NSTableViewDataSource, NSTableViewDelegate>
 /// `panel` outlives the view.
 - (instancetype)initConPanel:(zorve::PanelView&)panel;

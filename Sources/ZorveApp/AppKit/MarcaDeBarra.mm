@@ -8,9 +8,7 @@ namespace zorve {
 
 namespace {
 
-NSRect rectanguloDe(Rectangulo const& marco) {
-  return NSMakeRect(marco.x, marco.y, marco.ancho, marco.alto);
-}
+NSRect rectanguloDe(Rectangulo const& marco) { return NSMakeRect(marco.x, marco.y, marco.ancho, marco.alto); }
 
 NSPoint puntoDe(Punto const& punto) { return NSMakePoint(punto.x, punto.y); }
 

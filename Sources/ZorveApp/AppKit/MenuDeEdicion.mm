@@ -9,7 +9,7 @@ NSMenu* menuDeEdicion() {
   [edicion addItemWithTitle:@"" action:@selector(cut:) keyEquivalent:@"x"];
   [edicion addItemWithTitle:@"" action:@selector(paste:) keyEquivalent:@"v"];
   [edicion addItemWithTitle:@"" action:@selector(selectAll:) keyEquivalent:@"a"];
-  NSMenuItem* const titulo = [[NSMenuItem alloc] initWithTitle:@"" action:nil keyEquivalent:@""];
+  NSMenuItem* const titulo = [[NSMenuItem alloc] initWithTitle:@"" action:nullptr keyEquivalent:@""];
   titulo.submenu = edicion;
   NSMenu* const principal = [[NSMenu alloc] init];
   [principal addItem:titulo];

@@ -66,9 +66,7 @@ void llenar(NSView* dentro, NSView* fuera) {
 
 BOOL masContraste() { return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldIncreaseContrast; }
 
-BOOL menosTransparencia() {
-  return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldReduceTransparency;
-}
+BOOL menosTransparencia() { return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldReduceTransparency; }
 
 }  // namespace zorve
 

@@ -6,8 +6,8 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-/// A root view that offers key presses to a portable table: shortcuts before anyone else, other keys when nobody
-/// below took them.
+/// A root view that offers key presses to a portable table: shortcuts before anyone else, other keys when
+/// nobody below took them.
 @interface RaizConTeclas : NSView
 /// Gives whether the key was taken.
 @property(nonatomic, copy, nullable) BOOL (^alPulsar)(zorve::Pulsacion const& pulsacion);

@@ -5,8 +5,9 @@
 @implementation RaizConTeclas
 
 - (BOOL)probar:(nullable NSEvent*)evento {
-  if (evento == nil || evento.type != NSEventTypeKeyDown || self.alPulsar == nil) return NO;
-  return self.alPulsar(zorve::pulsacionDe(evento));
+  auto const alPulsar = self.alPulsar;
+  if (evento == nil || evento.type != NSEventTypeKeyDown || alPulsar == nil) return NO;
+  return alPulsar(zorve::pulsacionDe(static_cast<NSEvent* _Nonnull>(evento)));
 }
 
 - (BOOL)performKeyEquivalent:(NSEvent*)evento {

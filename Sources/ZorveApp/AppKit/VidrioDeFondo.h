@@ -11,8 +11,8 @@ NS_ASSUME_NONNULL_BEGIN
 - (void)reactivar;
 @end
 
-/// The glass layer, to lie behind everything: the blur, the tint, the light from the top edge. Where the system
-/// asks for less transparency the tint is opaque.
+/// The glass layer, to lie behind everything: the blur, the tint, the light from the top edge. Where the
+/// system asks for less transparency the tint is opaque.
 @interface VidrioDeFondo : NSView
 - (void)reactivar;
 @end

@@ -25,7 +25,8 @@ void DespachadorMac::enPrincipal(Tarea tarea) {
 }
 
 void DespachadorMac::enSegundoPlano(Tarea tarea) {
-  dispatch_async_f(dispatch_get_global_queue(QOS_CLASS_USER_INITIATED, 0), entregada(std::move(tarea)), correr);
+  dispatch_async_f(dispatch_get_global_queue(QOS_CLASS_USER_INITIATED, 0), entregada(std::move(tarea)),
+                   correr);
 }
 
 void DespachadorMac::enPrincipalTras(std::chrono::milliseconds espera, Tarea tarea) {

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <optional>
-#include <string>
+#include "ZorveCore/ManejadorDelSistema.h"
 
 namespace zorve {
 
-/// The bundle identifier of the application that opens shell scripts, or nothing when the system does not know
-/// the type, has no application for it, or the application has no identifier. Any thread.
-[[nodiscard]] std::optional<std::string> manejadorRegistrado();
+/// Asks the workspace at each call; identifiers are bundle identifiers.
+class ManejadorMac final : public ManejadorDelSistema {
+ public:
+  [[nodiscard]] std::optional<std::string> aplicacionPara(std::string_view tipo) const override;
+};
 
 }  // namespace zorve

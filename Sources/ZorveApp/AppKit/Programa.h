@@ -1,0 +1,60 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "ZorveApp/EstadoDelPanel.h"
+#include "ZorveApp/Idioma.h"
+#include "ZorveApp/ModeloDeAjustes.h"
+#include "ZorveApp/ModeloDeVista.h"
+#include "ZorveApp/PanelView.h"
+#include "ZorveCore/PrimerArranque.h"
+#include "ZorvePlatform/MacOS/AplicacionesMac.h"
+#include "ZorvePlatform/MacOS/DespachadorMac.h"
+#include "ZorvePlatform/MacOS/InicioDeSesionMac.h"
+#include "ZorvePlatform/MacOS/ManejadorMac.h"
+#include "ZorvePlatform/MacOS/PortapapelesMac.h"
+#include "ZorvePlatform/MacOS/PreferenciasMac.h"
+#include "ZorvePlatform/Posix/ArchivosPosix.h"
+#include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
+#include "ZorvePlatform/Posix/VidaDeProcesosPosix.h"
+
+namespace zorve {
+
+/// Every real object of the application and the models over them. It is never destroyed: tasks that still run
+/// when the program ends use its parts.
+class Programa {
+ public:
+  /// `home` is absolute, without a slash at its end; `version` is the bundle's, nothing outside of one.
+  Programa(std::string home, ReglaDePlegado regla, std::optional<std::string> version);
+  Programa(Programa const&) = delete;
+  Programa& operator=(Programa const&) = delete;
+  ~Programa() = delete;
+
+ private:
+  ArchivosPosix archivos_;
+  VidaDeProcesosPosix procesos_;
+  EjecutorDeProcesos ejecutor_;
+  AplicacionesMac aplicaciones_;
+  ManejadorMac manejador_;
+  PortapapelesMac portapapeles_;
+  InicioDeSesionMac inicio_;
+  PreferenciasMac preferencias_;
+  CatalogoDeTerminales catalogo_;
+  BanderasDeUsuario banderas_{preferencias_};
+
+ public:
+  DespachadorMac despachador;
+  PreferenciaDeIdioma idioma{preferencias_};
+  EstadoDelPanel estado;
+  ModeloDeVista modelo;
+  ModeloDeAjustes ajustes;
+  PanelView panel;
+  PrimerArranque primerArranque{banderas_};
+
+ private:
+  [[nodiscard]] ColaboradoresDelModelo delModelo(std::string const& home, ReglaDePlegado regla);
+  [[nodiscard]] ColaboradoresDeAjustes deAjustes(std::optional<std::string> version);
+};
+
+}  // namespace zorve

@@ -1,0 +1,43 @@
+#import <AppKit/AppKit.h>
+
+#include <memory>
+
+#import "ZorveApp/AppKit/Delegado.h"
+#import "ZorveApp/AppKit/Programa.h"
+#include "ZorvePlatform/MacOS/Cadenas.h"
+#include "ZorvePlatform/MacOS/DirectorioHogarMac.h"
+
+namespace {
+
+std::optional<std::string> versionDelBundle() {
+  id const version = NSBundle.mainBundle.infoDictionary[@"CFBundleShortVersionString"];
+  if (![version isKindOfClass:NSString.class]) return std::nullopt;
+  return zorve::textoDe(static_cast<NSString*>(version));
+}
+
+/// Left to the system at the program's end, on purpose.
+zorve::Programa& programa() {
+  auto const regla = zorve::reglaDe(zorve::textoDe(NSLocale.currentLocale.localeIdentifier));
+  return *new zorve::Programa{zorve::directorioHogarMac(), regla, versionDelBundle()};
+}
+
+}  // namespace
+
+int main() {
+  @autoreleasepool {
+    NSApplication* const aplicacion = NSApplication.sharedApplication;
+    auto& todo = programa();
+    static Delegado* delegado = nil;
+    delegado = [[Delegado alloc] initCon:{.panel = todo.panel,
+                                          .modelo = todo.modelo,
+                                          .ajustes = todo.ajustes,
+                                          .estado = todo.estado,
+                                          .idioma = todo.idioma,
+                                          .despachador = todo.despachador,
+                                          .primerArranque = todo.primerArranque}];
+    aplicacion.delegate = delegado;
+    [aplicacion setActivationPolicy:NSApplicationActivationPolicyAccessory];
+    [aplicacion run];
+  }
+  return 0;
+}
