@@ -1,6 +1,8 @@
 #include "ZorvePlatform/Linux/AplicacionesLinux.h"
 
+#include <cstdlib>
 #include <filesystem>
+#include <map>
 
 #include <gtest/gtest.h>
 
@@ -130,7 +132,7 @@ TEST(EntornoLinux, sinVariablesRigenLosLugaresAcostumbrados) {
   Variables const ninguna{{}};
   EXPECT_EQ(EntornoLinux::delProceso("/h"),
             (EntornoLinux{.home = "/h",
-                          .path = {"/usr/local/bin", "/usr/bin", "/bin"},
+                          .path = {"/usr/local/bin", "/usr/bin", "/bin", "/h/.local/bin"},
                           .configHome = "/h/.config",
                           .datos = {"/h/.local/share", "/usr/local/share", "/usr/share"}}));
 }
@@ -141,7 +143,7 @@ TEST(EntornoLinux, lasRutasRelativasYVaciasNoCuentan) {
                         {"XDG_DATA_HOME", "datos"},
                         {"XDG_DATA_DIRS", "x:/d"}}};
   EXPECT_EQ(EntornoLinux::delProceso("/h"), (EntornoLinux{.home = "/h",
-                                                          .path = {"/a", "/c"},
+                                                          .path = {"/a", "/c", "/h/.local/bin"},
                                                           .configHome = "/h/.config",
                                                           .datos = {"/h/.local/share", "/d"}}));
 }
@@ -150,7 +152,8 @@ TEST(EntornoLinux, lasVariablesAbsolutasMandan) {
   Variables const unas{
       {{"PATH", "/a"}, {"XDG_CONFIG_HOME", "/c"}, {"XDG_DATA_HOME", "/d"}, {"XDG_DATA_DIRS", "/e"}}};
   EXPECT_EQ(EntornoLinux::delProceso("/h"),
-            (EntornoLinux{.home = "/h", .path = {"/a"}, .configHome = "/c", .datos = {"/d", "/e"}}));
+            (EntornoLinux{
+                .home = "/h", .path = {"/a", "/h/.local/bin"}, .configHome = "/c", .datos = {"/d", "/e"}}));
 }
 
 }  // namespace

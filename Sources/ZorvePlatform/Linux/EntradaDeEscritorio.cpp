@@ -1,5 +1,6 @@
 #include "ZorvePlatform/Linux/EntradaDeEscritorio.h"
 
+#include <algorithm>
 #include <map>
 
 namespace zorve {

@@ -5,6 +5,9 @@
 #include <rapidjson/reader.h>
 #include <rapidjson/stringbuffer.h>
 
+#include <cstdint>
+#include <utility>
+
 #include "ZorveCore/Texto.h"
 
 namespace zorve {

@@ -22,7 +22,7 @@ namespace {
 constexpr std::size_t tope = 1U << 20U;
 constexpr char const* objetoVacio = "{}\n";
 
-std::unexpected<IndexError> fallo(std::string mensaje) {
+std::unexpected<IndexError> fallo(std::string const& mensaje) {
   return std::unexpected{IndexError{IndexSource::launcher, conUtf8Valido(mensaje)}};
 }
 

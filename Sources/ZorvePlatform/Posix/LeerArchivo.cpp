@@ -1,6 +1,7 @@
 #include "ZorvePlatform/Posix/LeerArchivo.h"
 
 #include <cerrno>
+#include <utility>
 
 #include "ZorvePlatform/Posix/ArchivosPosix.h"
 
