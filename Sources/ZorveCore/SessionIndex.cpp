@@ -42,8 +42,9 @@ Ubicaciones ubicacionesPorDefecto(std::string const& home) {
 }
 
 IndexResult construir(Archivos& archivos, VidaDeProcesos& procesos, Ubicaciones const& donde) {
-  auto historia = leerHistoria(archivos, donde.history);
-  auto escaneo = TranscriptScanner::escanear(archivos, donde.transcripciones);
+  HistoryResult historia;
+  auto escaneo = TranscriptScanner::escanear(archivos, donde.transcripciones,
+                                             [&] { historia = leerHistoria(archivos, donde.history); });
   auto sondeo = LiveProbe::sondear(archivos, procesos, donde.sesionesVivas);
   auto resultado = ensamblar(escaneo.transcripciones, historia.entradas, sondeo.vivas);
   auto const raiz = raizDeClaude(donde.home);

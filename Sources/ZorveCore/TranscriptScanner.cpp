@@ -101,14 +101,19 @@ std::vector<Candidato> candidatosDe(std::vector<Proyecto> const& proyectos) {
   return candidatos;
 }
 
-/// One reading a candidate, in their order, whichever is done first.
-std::vector<Lectura> leerTodos(Archivos& archivos, std::vector<Candidato> const& candidatos) {
+/// One reading a candidate, in their order, whichever is done first. `aLaVez` is the first task of all.
+std::vector<Lectura> leerTodos(Archivos& archivos, std::vector<Candidato> const& candidatos,
+                               std::function<void()> const& aLaVez) {
   std::vector<Lectura> lecturas(candidatos.size());
   std::atomic<std::size_t> siguiente{0};
   ladoALado(hilosPara(candidatos.size(), archivosPorHilo), [&] {
     LectorDeCabeceras lector;
-    for (auto i = siguiente++; i < candidatos.size(); i = siguiente++) {
-      lecturas[i] = leerCandidato(archivos, lector, candidatos[i]);
+    for (auto tarea = siguiente++; tarea <= candidatos.size(); tarea = siguiente++) {
+      if (tarea == 0) {
+        aLaVez();
+      } else {
+        lecturas[tarea - 1] = leerCandidato(archivos, lector, candidatos[tarea - 1]);
+      }
     }
   });
   return lecturas;
@@ -137,13 +142,17 @@ namespace TranscriptScanner {
 std::string raizPorDefecto(std::string const& home) { return unirRuta(home, ".claude/projects"); }
 
 Resultado escanear(Archivos& archivos, std::string const& raiz) {
+  return escanear(archivos, raiz, [] {});
+}
+
+Resultado escanear(Archivos& archivos, std::string const& raiz, std::function<void()> const& aLaVez) {
   auto const entradas = archivos.listar(raiz);
-  if (!entradas) return {{}, {error("Could not list ", raiz, entradas.error())}};
   std::vector<Proyecto> proyectos;
-  for (auto const& nombre : *entradas) {
+  for (auto const& nombre : entradas ? *entradas : std::vector<std::string>{}) {
     if (esCarpetaVisible(archivos, raiz, nombre)) proyectos.push_back(listarProyecto(archivos, raiz, nombre));
   }
-  auto lecturas = leerTodos(archivos, candidatosDe(proyectos));
+  auto lecturas = leerTodos(archivos, candidatosDe(proyectos), aLaVez);
+  if (!entradas) return {{}, {error("Could not list ", raiz, entradas.error())}};
   return reunir(proyectos, lecturas);
 }
 

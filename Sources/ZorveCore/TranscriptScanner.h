@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <expected>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -55,6 +56,11 @@ struct Resultado {
 /// there are processors at most; the result does not depend on their order. Never fails as a whole. Any
 /// thread.
 [[nodiscard]] Resultado escanear(Archivos& archivos, std::string const& raiz);
+
+/// The same, with `aLaVez` as one more task among the files: it runs once, on one of their threads, whatever
+/// `raiz` holds, and is done when this returns.
+[[nodiscard]] Resultado escanear(Archivos& archivos, std::string const& raiz,
+                                 std::function<void()> const& aLaVez);
 
 /// The identifier in the file name of `ruta`: a 36-character UUID before ".jsonl", unchanged; else nothing.
 [[nodiscard]] std::optional<std::string> sessionIdDeArchivo(std::string_view ruta);

@@ -9,11 +9,18 @@ namespace {
 
 /// Titles and directories are usually found near the window's ends. Steps end at multiples of their length
 /// in the file, so that no page of it is fetched for a few bytes only.
+constexpr std::size_t muyCerca = 16'384;
 constexpr std::size_t cerca = 49'152;
 constexpr std::int64_t pasoCorto = 4'096;
+constexpr std::int64_t pasoMedio = 8'192;
 constexpr std::int64_t pasoLargoDelante = 32'768;
 constexpr std::int64_t pasoLargoDetras = 262'144;
 constexpr std::size_t capacidadUsual = 262'144 + RegistroJson::margen;
+
+std::int64_t pasoTras(std::size_t leidos, std::int64_t pasoLargo) {
+  if (leidos < muyCerca) return pasoCorto;
+  return leidos < cerca ? pasoMedio : pasoLargo;
+}
 
 }  // namespace
 
@@ -71,7 +78,7 @@ void Ventana::cerrarElHueco() {
 }
 
 Ventana::Paso Ventana::masDelante() {
-  auto const paso = delante_ < cerca ? pasoCorto : pasoLargoDelante;
+  auto const paso = pasoTras(delante_, pasoLargoDelante);
   auto const lugar = inicio_ + static_cast<std::int64_t>(delante_);
   auto const hasta = std::min(static_cast<std::size_t>(lugar / paso * paso + paso - inicio_), detras_);
   auto const leido = leer(delante_, hasta);
@@ -81,7 +88,7 @@ Ventana::Paso Ventana::masDelante() {
 }
 
 Ventana::Paso Ventana::masDetras() {
-  auto const paso = largo_ - detras_ < cerca ? pasoCorto : pasoLargoDetras;
+  auto const paso = pasoTras(largo_ - detras_, pasoLargoDetras);
   auto const lugar = inicio_ + static_cast<std::int64_t>(detras_);
   auto const desde = std::max((lugar - 1) / paso * paso - inicio_, static_cast<std::int64_t>(delante_));
   auto const leido = leer(static_cast<std::size_t>(desde), detras_);

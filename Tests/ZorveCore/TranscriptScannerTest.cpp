@@ -341,7 +341,8 @@ class ArchivosDespaciosos final : public Archivos {
 
   static void demorar() {
     static thread_local std::minstd_rand azar{std::random_device{}()};
-    for (auto vueltas = azar() % 4; vueltas > 0; --vueltas) std::this_thread::yield();
+    for (std::atomic<unsigned> vueltas = azar() % 256; vueltas > 0; --vueltas) {
+    }
   }
 };
 
@@ -398,6 +399,21 @@ TEST(TranscriptScannerOrden, losErroresYLosEmpatesEstanEnElOrdenDelListado) {
   for (auto const& t : resultado.transcripciones) halladas.push_back(t.ruta);
   EXPECT_EQ(halladas, esperadas);
   EXPECT_EQ(mensajes(resultado), esperados);
+}
+
+TEST(TranscriptScannerOrden, laTareaAjenaSeHaceUnaVezYElResultadoEsElMismo) {
+  ArchivosDespaciosos casa;
+  revolver(casa);
+  int veces = 0;
+  EXPECT_EQ(escanear(casa, "/r", [&] { ++veces; }), escanear(casa, "/r"));
+  EXPECT_EQ(veces, 1);
+}
+
+TEST(TranscriptScannerOrden, laTareaAjenaSeHaceAunqueLaRaizFalte) {
+  ArchivosDespaciosos casa;
+  int veces = 0;
+  EXPECT_THAT(escanear(casa, "/no/hay", [&] { ++veces; }).errores, SizeIs(1));
+  EXPECT_EQ(veces, 1);
 }
 
 TEST(LargoTranscriptScanner, cienMilTranscripcionesSeHallanTodas) {
