@@ -30,9 +30,9 @@ std::string comandoParaPersonas(ComandoDeApertura const& comando, bool color) {
   std::string texto = textoVisible(comando.ejecutable) + "\n";
   for (std::size_t i = 0; i < comando.args.size(); ++i) {
     auto const numero = std::to_string(i + 1);
-    auto const margen = std::string(2 + ancho - numero.size(), ' ');
-    texto += margen + (color ? std::string{tenue} + numero + std::string{normal} : numero) + "  " +
-             sangrado(comando.args[i], ancho + 4);
+    texto.append(2 + ancho - numero.size(), ' ');
+    texto.append(color ? tenue : "").append(numero).append(color ? normal : "").append("  ");
+    texto += sangrado(comando.args[i], ancho + 4);
   }
   return texto;
 }
