@@ -9,15 +9,13 @@
 #include "ZorveApp/ModeloDeVista.h"
 #include "ZorveApp/PanelView.h"
 #include "ZorveCore/PrimerArranque.h"
-#include "ZorvePlatform/MacOS/AplicacionesMac.h"
 #include "ZorvePlatform/MacOS/DespachadorMac.h"
 #include "ZorvePlatform/MacOS/InicioDeSesionMac.h"
-#include "ZorvePlatform/MacOS/ManejadorMac.h"
 #include "ZorvePlatform/MacOS/PortapapelesMac.h"
-#include "ZorvePlatform/MacOS/PreferenciasMac.h"
 #include "ZorvePlatform/Posix/ArchivosPosix.h"
 #include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
 #include "ZorvePlatform/Posix/VidaDeProcesosPosix.h"
+#include "ZorvePlatform/ServiciosDeTerminal.h"
 
 namespace zorve {
 
@@ -35,17 +33,14 @@ class Programa {
   ArchivosPosix archivos_;
   VidaDeProcesosPosix procesos_;
   EjecutorDeProcesos ejecutor_;
-  AplicacionesMac aplicaciones_;
-  ManejadorMac manejador_;
   PortapapelesMac portapapeles_;
   InicioDeSesionMac inicio_;
-  PreferenciasMac preferencias_;
-  CatalogoDeTerminales catalogo_;
-  BanderasDeUsuario banderas_{preferencias_};
+  ServiciosDeTerminal servicios_;
+  BanderasDeUsuario banderas_;
 
  public:
   DespachadorMac despachador;
-  PreferenciaDeIdioma idioma{preferencias_};
+  PreferenciaDeIdioma idioma;
   EstadoDelPanel estado;
   ModeloDeVista modelo;
   ModeloDeAjustes ajustes;

@@ -8,7 +8,9 @@
 namespace zorve {
 
 Programa::Programa(std::string home, ReglaDePlegado regla, std::optional<std::string> version)
-    : catalogo_{catalogoDelSistema(todas(aplicaciones_), manejador_, preferencias_)},
+    : servicios_{serviciosDeTerminal(home)},
+      banderas_{*servicios_.preferencias},
+      idioma{*servicios_.preferencias},
       modelo{delModelo(home, regla)},
       ajustes{deAjustes(std::move(version))},
       panel{modelo,
@@ -23,17 +25,18 @@ ColaboradoresDelModelo Programa::delModelo(std::string const& home, ReglaDePlega
     return SessionIndex::construir(archivos_, procesos_, donde);
   };
   return {.cargar = std::move(cargar),
-          .catalogo = catalogo_,
+          .catalogo = servicios_.catalogo(),
           .ejecutor = ejecutor_,
           .portapapeles = portapapeles_,
           .despachador = despachador,
           .idioma = idioma,
-          .regla = regla};
+          .regla = regla,
+          .rutaPs = servicios_.rutaPs};
 }
 
 ColaboradoresDeAjustes Programa::deAjustes(std::optional<std::string> version) {
-  return {.catalogo = catalogo_,
-          .preferencias = preferencias_,
+  return {.catalogo = servicios_.catalogo(),
+          .preferencias = *servicios_.preferencias,
           .inicio = inicio_,
           .idioma = idioma,
           .despachador = despachador,
