@@ -9,6 +9,7 @@ target_include_directories(zorve_cli11 SYSTEM INTERFACE ${CLI11_INCLUDE})
 
 if(APPLE)
   include(${CMAKE_CURRENT_LIST_DIR}/FuentesDeMac.cmake)
+  include(${CMAKE_CURRENT_LIST_DIR}/Objc.cmake)
 else()
   find_package(simdjson REQUIRED)
   find_path(UTF8PROC_INCLUDE utf8proc.h REQUIRED)

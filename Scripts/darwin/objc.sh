@@ -16,7 +16,7 @@ command -v "$clang" >/dev/null 2>&1 || falta+=("$clang")
 [ ${#falta[@]} -eq 0 ] || falla "the check of the Objective-C++ sources needs what is not here: ${falta[*]}"
 
 opciones=(-std=c++23 -x objective-c++ -fsyntax-only -fobjc-arc -fblocks -fobjc-runtime=gnustep-2.0
-  -DNS_BLOCK_ASSERTIONS -I Scripts/darwin/gnustep -I Sources -isystem "$gnustep" -idirafter "$objc"
+  -DNS_BLOCK_ASSERTIONS -I Scripts/darwin/gnustep -I Sources -I Tests -isystem "$gnustep" -idirafter "$objc"
   -include Scripts/darwin/gnustep/DeApple.h
   -Wall -Wextra -Wno-missing-field-initializers -Wpedantic -Wshadow -Wconversion -Wsign-conversion
   -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wformat=2 -Wundef -Werror
