@@ -1,6 +1,7 @@
 # The macOS side, read from Sources/.
 if(ZORVE_SOLO_PORTABLE)
-  zorve_capa(ZorvePlatform ZorvePlatform/Posix/*.cpp ZorvePlatform/MacOS/*.cpp)
+  zorve_capa(ZorvePlatform ZorvePlatform/Posix/*.cpp ZorvePlatform/MacOS/*.cpp
+    ${PROJECT_SOURCE_DIR}/Scripts/darwin/enlace/SinSistema.cpp)
   add_subdirectory(${PROJECT_SOURCE_DIR}/Scripts/darwin/enlace ${PROJECT_BINARY_DIR}/enlace)
   return()
 endif()

@@ -53,8 +53,9 @@ mkdir -p "$base"
 export ZORVE_DARWIN_SDK=$base/sdk ZORVE_DARWIN_LLVM=$llvm
 
 for arch in arm64 x86_64; do
-  construye "$arch" zorve-enlace
+  construye "$arch" zorve-enlace zorvectl
   mira "$arch" "$base/$arch/bin/zorve-enlace"
+  mira "$arch" "$base/$arch/bin/zorvectl"
   nota "$arch: compiled and linked"
 done
 if [ "${1-no}" = si ]; then
@@ -62,6 +63,6 @@ if [ "${1-no}" = si ]; then
   for programa in "$base"/arm64/bin/Pruebas*; do mira arm64 "$programa"; done
   nota "arm64: the tests compiled and linked"
 fi
-"llvm-lipo$llvm" -create "$base"/{arm64,x86_64}/bin/zorve-enlace -output "$base/zorve-enlace"
-[ "$("llvm-lipo$llvm" -archs "$base/zorve-enlace" | xargs -n 1 | sort | xargs)" = "arm64 x86_64" ] ||
+"llvm-lipo$llvm" -create "$base"/{arm64,x86_64}/bin/zorvectl -output "$base/zorvectl"
+[ "$("llvm-lipo$llvm" -archs "$base/zorvectl" | xargs -n 1 | sort | xargs)" = "arm64 x86_64" ] ||
   falla "the two programs do not join into one"
