@@ -48,6 +48,13 @@ std::span<FichaDeTerminal const> fichasDeLinux() {
       {"qterminal", "QTerminal", "qterminal.desktop", {"qterminal"}, {"-e"}, {"qterminal"}},
       {"terminator", "Terminator", "terminator.desktop", {"terminator"}, {"--no-dbus", "-x"}, {"terminator"}},
       {"xterm", "xterm", "debian-xterm.desktop", {"xterm"}, {"-e"}, {"xterm"}},
+      {.identificador = "x-terminal-emulator",
+       .nombre = "x-terminal-emulator",
+       .entradaDeEscritorio = "x-terminal-emulator.desktop",
+       .programas = {"x-terminal-emulator"},
+       .argumentos = {"-e"},
+       .procesos = {},
+       .esCualquierOtra = true},
   };
   return fichas;
 }

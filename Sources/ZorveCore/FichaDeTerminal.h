@@ -23,6 +23,8 @@ struct FichaDeTerminal {
   std::vector<std::string> procesos;
   /// The words of the command arrive as one text, quoted for a shell.
   bool unSoloTexto = false;
+  /// Stands for whichever terminal the system starts under the name x-terminal-emulator.
+  bool esCualquierOtra = false;
 };
 
 /// The known Linux terminals, in the order in which they are listed. Any thread.

@@ -17,6 +17,9 @@ class ManejadorDelSistema {
   /// The identifier of the default application for the uniform type `tipo`; nothing when the system does not
   /// know the type, has no application for it, or the application has no identifier.
   [[nodiscard]] virtual std::optional<std::string> aplicacionPara(std::string_view tipo) const = 0;
+  /// Where the system's answer for `tipo` comes from, as a person knows it ("$TERMINAL"); nothing where there
+  /// is only one place, or no answer.
+  [[nodiscard]] virtual std::optional<std::string> dichoPor(std::string_view tipo) const;
 };
 
 }  // namespace zorve

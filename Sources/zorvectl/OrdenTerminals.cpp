@@ -14,6 +14,8 @@ struct Estado {
   std::vector<TerminalRef> conocidas;
   std::optional<std::string> eleccion;
   std::optional<std::string> manejador;
+  /// Where the system says so.
+  std::optional<std::string> dichoPor;
   std::expected<TerminalResuelta, IndexError> resuelta;
   /// Why the settings could not be read.
   std::optional<IndexError> aviso;
@@ -25,6 +27,7 @@ Estado estadoDe(ServiciosDeTerminal const& servicios) {
   return {.conocidas = catalogo.conocidas,
           .eleccion = catalogo.leerEleccion(),
           .manejador = catalogo.manejadorDelSistema(),
+          .dichoPor = servicios.manejador->dichoPor(CatalogoDeTerminales::tipoDeGuionDeShell),
           .resuelta = catalogo.resolver(),
           .aviso = leida ? std::nullopt : std::optional{leida.error()}};
 }
@@ -48,6 +51,7 @@ std::string terminalesJson(Estado const& estado) {
     });
     json.campo("eleccion", estado.eleccion);
     json.campo("manejador", estado.manejador);
+    json.campo("manejadorDichoPor", estado.dichoPor);
     json.clave("resuelta");
     if (estado.resuelta) {
       json.objeto(resuelta);
@@ -75,8 +79,14 @@ std::string_view razon(OrigenDeLaTerminal origen) {
 }
 
 std::string notaDe(Estado const& estado, TerminalRef const& terminal) {
-  if (estado.resuelta && estado.resuelta->terminal == terminal)
-    return std::string{razon(estado.resuelta->origen)};
+  if (estado.resuelta && estado.resuelta->terminal == terminal) {
+    auto const origen = estado.resuelta->origen;
+    auto nota = std::string{razon(origen)};
+    if (origen == OrigenDeLaTerminal::manejadorDelSistema && estado.dichoPor) {
+      nota += " (" + *estado.dichoPor + ")";
+    }
+    return nota;
+  }
   if (estado.eleccion && buscarTerminal(*estado.eleccion, {terminal})) return "your choice";
   return {};
 }

@@ -42,6 +42,17 @@ class AplicacionesLinuxTest : public testing::Test {
 
 TEST_F(AplicacionesLinuxTest, unEjecutableDelPathEsUnaAplicacion) { EXPECT_TRUE(hay("kitty")); }
 
+TEST_F(AplicacionesLinuxTest, elNombreGenericoSoloCuentaSiLlevaAUnTerminalDesconocido) {
+  EXPECT_FALSE(hay("x-terminal-emulator"));
+  programa("bin/otra", 0755);
+  auto const enlace = carpeta.dentro("bin/x-terminal-emulator");
+  std::filesystem::create_symlink("otra", enlace);
+  EXPECT_TRUE(hay("x-terminal-emulator"));
+  std::filesystem::remove(enlace);
+  std::filesystem::create_symlink("kitty", enlace);
+  EXPECT_FALSE(hay("x-terminal-emulator"));
+}
+
 TEST_F(AplicacionesLinuxTest, unArchivoSinPermisoDeEjecucionNoLoEs) {
   EXPECT_FALSE(hay("sinpermiso"));
   EXPECT_FALSE(hay("KITTY"));

@@ -55,6 +55,12 @@ TEST_F(ManejadorEnOrden, unaRespuestaDesconocidaPasaALaSiguiente) {
   EXPECT_EQ(buscar(), (TerminalDelSistema{"xfce4-terminal", Fuente::enlace}));
 }
 
+TEST_F(ManejadorEnOrden, unEnlaceAOtroTerminalEsElNombreDelEnlace) {
+  programa("otra", "");
+  std::filesystem::create_symlink(carpeta.dentro("bin/otra"), carpeta.dentro("enlace"));
+  EXPECT_EQ(buscar(), (TerminalDelSistema{"x-terminal-emulator", Fuente::enlace}));
+}
+
 TEST_F(ManejadorEnOrden, soloCuentaElGrupoGeneralDeKde) {
   carpeta.escribir("kdeglobals", "[Otro]\nTerminalApplication=konsole\n[General]\nOtra=1\n");
   EXPECT_EQ(buscar(), std::nullopt);

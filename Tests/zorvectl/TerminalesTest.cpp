@@ -116,6 +116,16 @@ TEST_F(ZorvectlTerminales, elJsonDiceLaElegidaYPorQue) {
       HasSubstr(R"("resuelta":{"identificador":"kitty","origen":"eleccionDeLaPersona"},"errores":[]})"));
 }
 
+TEST_F(ZorvectlTerminales, laTerminalDelSistemaSeMuestraConQuienLoDice) {
+  instalar("foot");
+  instalar("kitty");
+  hogar.carpeta().escribir("config/kdeglobals", "[General]\nTerminalApplication=foot\n");
+  auto const corrida = zorvectl({"terminals"});
+  EXPECT_THAT(corrida.salida, HasSubstr("sessions open here: the system's terminal (kdeglobals)\n"));
+  EXPECT_THAT(zorvectl({"terminals", "--json"}).salida,
+              HasSubstr(R"("manejador":"foot","manejadorDichoPor":"kdeglobals")"));
+}
+
 TEST_F(ZorvectlTerminales, laTablaSenalaLaElegida) {
   instalar("kitty");
   ASSERT_EQ(zorvectl({"choose", "kitty"}).codigo, 0);

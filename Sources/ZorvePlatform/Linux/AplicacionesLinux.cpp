@@ -1,9 +1,11 @@
 #include "ZorvePlatform/Linux/AplicacionesLinux.h"
 
+#include <filesystem>
 #include <utility>
 
 #include "ZorveCore/Archivos.h"
 #include "ZorvePlatform/Linux/EntradaDeEscritorio.h"
+#include "ZorvePlatform/Linux/ManejadorLinux.h"
 #include "ZorvePlatform/Posix/LeerArchivo.h"
 
 namespace zorve {
@@ -12,12 +14,29 @@ namespace {
 
 constexpr std::size_t topeDeEntrada = 1U << 20U;
 
+constexpr std::string_view cualquierOtra = "x-terminal-emulator";
+constexpr int maximoDeEnlaces = 16;
+
+/// Whether `ruta` is there and none of the names that its links lead through is a known terminal's.
+bool esTerminalDesconocida(std::filesystem::path ruta) {
+  if (ruta.empty()) return false;
+  for (int i = 0; i < maximoDeEnlaces; ++i) {
+    if (terminalDelPrograma(ruta.native())) return false;
+    std::error_code error;
+    auto const destino = std::filesystem::read_symlink(ruta, error);
+    if (error) return true;
+    ruta = ruta.parent_path() / destino;
+  }
+  return false;
+}
+
 }  // namespace
 
 AplicacionesLinux::AplicacionesLinux(EntornoLinux entorno) : entorno_{std::move(entorno)} {}
 
 bool AplicacionesLinux::hay(std::string const& identificador) const {
   if (identificador.empty() || identificador.contains('/') || identificador.contains('\0')) return false;
+  if (identificador == cualquierOtra) return esTerminalDesconocida(ejecutableEn(entorno_, identificador));
   return !ejecutableEn(entorno_, identificador).empty() ||
          !programaDeLaEntrada(entorno_, identificador).empty();
 }

@@ -8,7 +8,8 @@
 namespace zorve {
 
 /// Knows an application by an executable of that name in the PATH, or by a desktop entry of that name whose
-/// program exists. Of several entries of one name the user's own decides, and a hidden one counts as none.
+/// program exists. x-terminal-emulator counts only where it leads to none of the known terminals. Of several
+/// entries of one name the user's own decides, and a hidden one counts as none.
 class AplicacionesLinux final : public AplicacionesInstaladas {
  public:
   explicit AplicacionesLinux(EntornoLinux entorno);

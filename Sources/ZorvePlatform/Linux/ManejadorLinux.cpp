@@ -103,7 +103,11 @@ std::optional<std::string> segunGsettings(LugaresDelManejador const& lugares) {
 std::optional<std::string> segunEnlace(LugaresDelManejador const& lugares) {
   std::error_code error;
   auto const destino = std::filesystem::read_symlink(lugares.enlace, error);
-  return error ? std::nullopt : terminalDelPrograma(destino.native());
+  if (error) return std::nullopt;
+  if (auto conocida = terminalDelPrograma(destino.native())) return conocida;
+  auto const cualquiera = std::ranges::find_if(fichasDeLinux(), &FichaDeTerminal::esCualquierOtra);
+  bool const existe = !ejecutableEn(lugares.entorno, destino.native()).empty();
+  return existe ? std::optional{cualquiera->identificador} : std::nullopt;
 }
 
 }  // namespace
@@ -126,6 +130,12 @@ std::optional<std::string> ManejadorLinux::aplicacionPara(std::string_view tipo)
   if (tipo != CatalogoDeTerminales::tipoDeGuionDeShell) return std::nullopt;
   auto hallada = buscar();
   return hallada ? std::optional{std::move(hallada->identificador)} : std::nullopt;
+}
+
+std::optional<std::string> ManejadorLinux::dichoPor(std::string_view tipo) const {
+  if (tipo != CatalogoDeTerminales::tipoDeGuionDeShell) return std::nullopt;
+  auto const hallada = buscar();
+  return hallada ? std::optional{std::string{nombreDe(hallada->fuente)}} : std::nullopt;
 }
 
 std::optional<TerminalDelSistema> ManejadorLinux::buscar() const {
@@ -170,6 +180,7 @@ std::string_view nombreDe(FuenteDelManejador fuente) {
 std::optional<std::string> terminalDelPrograma(std::string_view ruta) {
   auto const nombre = nombreDelPrograma(ruta);
   for (auto const& ficha : fichasDeLinux()) {
+    if (ficha.esCualquierOtra) continue;
     if (std::ranges::find(ficha.programas, nombre) != ficha.programas.end()) return ficha.identificador;
   }
   return std::nullopt;

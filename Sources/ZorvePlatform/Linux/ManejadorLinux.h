@@ -51,6 +51,7 @@ class ManejadorLinux final : public ManejadorDelSistema {
 
   /// Any `tipo` but the one of shell scripts has no handler.
   [[nodiscard]] std::optional<std::string> aplicacionPara(std::string_view tipo) const override;
+  [[nodiscard]] std::optional<std::string> dichoPor(std::string_view tipo) const override;
   [[nodiscard]] std::optional<TerminalDelSistema> buscar() const;
 
  private:

@@ -23,7 +23,7 @@ ServiciosDeTerminal serviciosDeTerminal(std::string const& home) {
   auto const entorno = EntornoLinux::delProceso(home);
   ServiciosDeTerminal servicios{
       .aplicaciones = std::make_unique<AplicacionesLinux>(entorno),
-      .manejador = std::make_unique<ManejadorLinux>(),
+      .manejador = std::make_unique<ManejadorLinux>(LugaresDelManejador::delProceso(entorno)),
       .preferencias = std::make_unique<PreferenciasLinux>(PreferenciasLinux::archivoPorDefecto(entorno)),
       .rutaPs = rutaDePs(entorno)};
   servicios.propias = terminalesDeLinux(*servicios.aplicaciones, rutaDelAyudante());

@@ -1,0 +1,9 @@
+#include "ZorveCore/ManejadorDelSistema.h"
+
+namespace zorve {
+
+std::optional<std::string> ManejadorDelSistema::dichoPor(std::string_view /*tipo*/) const {
+  return std::nullopt;
+}
+
+}  // namespace zorve
