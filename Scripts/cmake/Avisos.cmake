@@ -14,7 +14,8 @@ if(ZORVE_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(zorve_opciones INTERFACE -Wno-maybe-uninitialized -Wno-tsan)
 endif()
 # g++ 12 takes short string joins for overlapping copies when it optimises (its bug 105651).
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13
+   AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
   target_compile_options(zorve_opciones INTERFACE -Wno-restrict)
 endif()
 # clang reports libstdc++ 12's own use of a deprecated function inside std::stable_sort as ours.

@@ -7,6 +7,19 @@
 
 namespace zorve {
 
+namespace {
+
+bool unoMas(std::vector<std::thread>& hilos, std::function<void()> const& trabajador) {
+  try {
+    hilos.emplace_back(trabajador);
+    return true;
+  } catch (std::system_error const&) {
+    return false;
+  }
+}
+
+}  // namespace
+
 std::size_t hilosPara(std::size_t tareas, std::size_t porHilo) {
   if (tareas < 2 * porHilo) return 1;
   return std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, tareas / porHilo);
@@ -15,10 +28,7 @@ std::size_t hilosPara(std::size_t tareas, std::size_t porHilo) {
 void ladoALado(std::size_t hilos, std::function<void()> const& trabajador) {
   std::vector<std::thread> otros;
   otros.reserve(hilos);
-  try {
-    while (otros.size() + 1 < hilos) otros.emplace_back(trabajador);
-  } catch (std::system_error const&) {
-    // Out of threads: those that run do all of the work.
+  while (otros.size() + 1 < hilos && unoMas(otros, trabajador)) {
   }
   trabajador();
   for (auto& hilo : otros) hilo.join();
