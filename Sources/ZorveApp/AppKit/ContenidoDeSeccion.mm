@@ -56,6 +56,8 @@ NSAttributedString* espaciado(std::string_view texto) {
   /// Rows and captions are kept from one drawing to the next: the keyboard's focus stays where it is.
   NSMutableArray<FilaDeOpcion*>* _opciones;
   NSMutableArray<NSTextField*>* _rotulos;
+  /// The last view of each group.
+  NSMutableSet<NSView*>* _ultimas;
   NSUInteger _opcionesUsadas;
   NSUInteger _rotulosUsados;
 }
@@ -66,6 +68,7 @@ NSAttributedString* espaciado(std::string_view texto) {
     _modelo = &modelo;
     _opciones = [NSMutableArray array];
     _rotulos = [NSMutableArray array];
+    _ultimas = [NSMutableSet set];
     _columna = [[ColumnaDeAjustes alloc] initWithFrame:NSZeroRect];
     _columna.orientation = NSUserInterfaceLayoutOrientationVertical;
     _columna.alignment = NSLayoutAttributeLeading;
@@ -87,6 +90,7 @@ NSAttributedString* espaciado(std::string_view texto) {
 - (void)actualizar {
   _opcionesUsadas = 0;
   _rotulosUsados = 0;
+  [_ultimas removeAllObjects];
   NSMutableArray<NSView*>* const vistas = [NSMutableArray array];
   if (auto const banda = _valores->banda()) {
     [vistas addObject:[[TarjetaDeAviso alloc] initConLinea:{zorve::LineaDeBanda::Clase::error, *banda}
@@ -104,6 +108,9 @@ NSAttributedString* espaciado(std::string_view texto) {
       break;
   }
   if (![_columna.views isEqualToArray:vistas]) [_columna setViews:vistas inGravity:NSStackViewGravityTop];
+  for (NSView* vista in vistas) {
+    [_columna setCustomSpacing:[_ultimas containsObject:vista] ? entreGrupos : entreFilas afterView:vista];
+  }
 }
 
 - (void)poner:(zorve::ContenidoDeAjustes const&)contenido en:(NSMutableArray<NSView*>*)vistas {
@@ -112,13 +119,14 @@ NSAttributedString* espaciado(std::string_view texto) {
                                Estilo::textoTenue)];
   }
   for (auto const& grupo : contenido.grupos) {
+    if (grupo.opciones.empty()) continue;
     if (!grupo.titulo.empty()) [vistas addObject:[self rotuloCon:espaciado(grupo.titulo)]];
     for (auto const& opcion : grupo.opciones) {
       FilaDeOpcion* const fila = [self filaLibre];
       [fila mostrar:opcion];
       [vistas addObject:fila];
     }
-    [_columna setCustomSpacing:entreGrupos afterView:vistas.lastObject];
+    [_ultimas addObject:vistas.lastObject];
   }
 }
 

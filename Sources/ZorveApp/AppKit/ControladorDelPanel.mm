@@ -108,8 +108,10 @@ namespace Medidas = zorve::Medidas;
 
 - (void)actualizar {
   _pedida = NO;
-  NSString* const consulta = zorve::cadena(*_modelo->consulta());
-  if (![_busqueda.campo.stringValue isEqualToString:consulta]) _busqueda.campo.stringValue = consulta;
+  // While the field is being edited it is the one that writes: an input method may be composing in it.
+  if (_busqueda.campo.currentEditor == nil) {
+    _busqueda.campo.stringValue = zorve::cadena(*_modelo->consulta());
+  }
   [_banda mostrar:_panel->banda()];
   [_lista actualizar];
   [_pie actualizar];

@@ -1,6 +1,7 @@
 #import "ZorveApp/AppKit/ListaDeSesiones.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #import "ZorveApp/AppKit/FilaDeSesion.h"
@@ -46,6 +47,7 @@ NSTableView* tablaSinAdornos() {
   NSScrollView* _desplazable;
   NSTextField* _marcador;
   std::vector<std::string> _ids;
+  std::string _elegida;
 }
 
 - (instancetype)initConPanel:(zorve::PanelView&)panel {
@@ -83,15 +85,21 @@ NSTableView* tablaSinAdornos() {
   [self mostrarFilas];
 }
 
+/// Another session selected comes into sight; the same one in another row stays where the person scrolled.
 - (void)mostrarSeleccion {
   auto const fila = _panel->filaSeleccionada();
+  auto elegida = fila ? _ids.at(*fila) : std::string{};
+  bool const esOtra = elegida != _elegida;
+  _elegida = std::move(elegida);
   if (!fila) {
     [_tabla deselectAll:nil];
     return;
   }
-  if (_tabla.selectedRow == static_cast<NSInteger>(*fila)) return;
-  [_tabla selectRowIndexes:[NSIndexSet indexSetWithIndex:*fila] byExtendingSelection:NO];
-  [_tabla scrollRowToVisible:static_cast<NSInteger>(*fila)];
+  auto const posicion = static_cast<NSInteger>(*fila);
+  if (_tabla.selectedRow != posicion) {
+    [_tabla selectRowIndexes:[NSIndexSet indexSetWithIndex:*fila] byExtendingSelection:NO];
+  }
+  if (esOtra) [_tabla scrollRowToVisible:posicion];
 }
 
 /// The rows that exist, in place: assistive software keeps its own.
@@ -103,7 +111,7 @@ NSTableView* tablaSinAdornos() {
 }
 
 - (void)mostrarFila:(NSInteger)fila en:(NSTableRowView*)fondo {
-  if (fila < 0 || static_cast<std::size_t>(fila) >= _ids.size()) return;
+  if (![self vigente:fila]) return;
   if ([fondo isKindOfClass:FondoDeFila.class]) {
     static_cast<FondoDeFila*>(fondo).conLinea = [self conLinea:fila];
   }
@@ -118,8 +126,15 @@ NSTableView* tablaSinAdornos() {
   return fila != elegida && fila + 1 != elegida && static_cast<std::size_t>(fila) + 1 < _ids.size();
 }
 
+/// The table asks between a change of the model and the update that follows it.
+- (BOOL)vigente:(NSInteger)fila {
+  auto const posicion = static_cast<std::size_t>(fila);
+  return fila >= 0 && posicion < _ids.size() && posicion < _panel->cantidadDeFilas() &&
+         _panel->idDeFila(posicion) == _ids[posicion];
+}
+
 - (void)abrirFila:(NSInteger)fila {
-  if (fila < 0 || static_cast<std::size_t>(fila) >= _ids.size()) return;
+  if (![self vigente:fila]) return;
   _panel->clicEnFila(static_cast<std::size_t>(fila));
 }
 
@@ -145,7 +160,7 @@ NSTableView* tablaSinAdornos() {
       if (entera != nil) [debil abrirFila:[entera rowForView:cual]];
     };
   }
-  [celda mostrar:_panel->fila(static_cast<std::size_t>(fila))];
+  if ([self vigente:fila]) [celda mostrar:_panel->fila(static_cast<std::size_t>(fila))];
   return celda;
 }
 
