@@ -17,8 +17,11 @@ std::string_view nombreBase(std::string_view ruta) {
 }  // namespace
 
 TerminalDeLinux::TerminalDeLinux(FichaDeTerminal const& ficha, AplicacionesInstaladas const& aplicaciones,
-                                 std::string rutaDelAyudante)
-    : ficha_{ficha}, aplicaciones_{aplicaciones}, rutaDelAyudante_{std::move(rutaDelAyudante)} {}
+                                 std::string rutaDelAyudante, SesionGrafica sesion)
+    : ficha_{ficha},
+      aplicaciones_{aplicaciones},
+      rutaDelAyudante_{std::move(rutaDelAyudante)},
+      sesion_{sesion} {}
 
 std::string TerminalDeLinux::identificador() const { return ficha_.identificador; }
 
@@ -26,7 +29,7 @@ std::string TerminalDeLinux::nombre() const { return ficha_.nombre; }
 
 std::string TerminalDeLinux::nombreDelBundle() const { return ficha_.entradaDeEscritorio; }
 
-bool TerminalDeLinux::puedeEnfocar() const { return false; }
+bool TerminalDeLinux::puedeEnfocar() const { return ficha_.enfocableEnX && sesion_ == SesionGrafica::x11; }
 
 bool TerminalDeLinux::estaInstalada() const {
   return aplicaciones_.hay(ficha_.identificador) ||
@@ -43,7 +46,8 @@ PlanDeApertura TerminalDeLinux::planParaAbrir(std::string const& cwd, std::strin
 }
 
 std::expected<PlanDeApertura, IndexError> TerminalDeLinux::planParaEnfocar(std::string const& tty) const {
-  return NoSePuedeEnfocar{ttyCorto(tty)};
+  if (!puedeEnfocar()) return NoSePuedeEnfocar{ttyCorto(tty)};
+  return std::vector{ComandoDeApertura{rutaDelAyudante_, {"focus", ficha_.identificador, ttyCorto(tty)}}};
 }
 
 }  // namespace zorve

@@ -12,12 +12,13 @@ class TerminalDeLinux final : public Terminal {
  public:
   /// Both references outlive the driver.
   TerminalDeLinux(FichaDeTerminal const& ficha, AplicacionesInstaladas const& aplicaciones,
-                  std::string rutaDelAyudante);
+                  std::string rutaDelAyudante, SesionGrafica sesion);
 
   [[nodiscard]] std::string identificador() const override;
   [[nodiscard]] std::string nombre() const override;
   /// The desktop entry's file name.
   [[nodiscard]] std::string nombreDelBundle() const override;
+  /// Whether its windows can be brought to the front in this graphical session.
   [[nodiscard]] bool puedeEnfocar() const override;
   /// Whether the identifier or one of the executables is known to the system.
   [[nodiscard]] bool estaInstalada() const override;
@@ -32,6 +33,7 @@ class TerminalDeLinux final : public Terminal {
   FichaDeTerminal const& ficha_;
   AplicacionesInstaladas const& aplicaciones_;
   std::string rutaDelAyudante_;
+  SesionGrafica sesion_;
 };
 
 }  // namespace zorve

@@ -1,13 +1,14 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <cstdio>
+#include <csignal>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "ZorveTerminal/Abrir.h"
+#include "ZorveTerminal/Enfocar.h"
 #include "ZorveTerminal/Entorno.h"
 
 namespace {
@@ -18,10 +19,12 @@ constexpr int usoIncorrecto = 2;
 
 constexpr std::string_view ayuda =
     "Usage: zorve-terminal open TERMINAL DIRECTORY COMMANDLINE\n"
+    "       zorve-terminal focus TERMINAL TTY\n"
     "       zorve-terminal --help | --version\n"
     "\n"
     "Opens a new window of the terminal TERMINAL in DIRECTORY, runs the shell command line COMMANDLINE\n"
-    "there in the person's shell and leaves that shell waiting.\n"
+    "there in the person's shell and leaves that shell waiting; or brings the window of the session on the\n"
+    "terminal device TTY to the front.\n"
     "\n"
     "Terminals:";
 
@@ -54,6 +57,23 @@ int abrirVentana(std::span<std::string const> args) {
   return resultado ? 0 : quejarse(resultado.error().mensaje, resultado.error().codigo);
 }
 
+/// A hung display server must not hang whoever asked: after this long, in seconds, that is the answer.
+constexpr unsigned plazoDeEnfoque = 8;
+
+void rendirse(int /*senal*/) {
+  escribir(STDERR_FILENO, "zorve-terminal: the desktop did not answer in time\n");
+  ::_exit(1);
+}
+
+int enfocarVentana(std::span<std::string const> args) {
+  if (args.size() != 2) return quejarse("focus takes a terminal and a tty", usoIncorrecto);
+  auto const* const ficha = fichaDeLinux(args[0]);
+  if (ficha == nullptr) return quejarse("unknown terminal: " + args[0], usoIncorrecto);
+  if (std::signal(SIGALRM, rendirse) != SIG_ERR) ::alarm(plazoDeEnfoque);
+  auto const resultado = enfocar(*ficha, args[1]);
+  return resultado ? 0 : quejarse(resultado.error(), 1);
+}
+
 int correr(std::span<std::string const> args) {
   if (args.size() == 1 && args[0] == "--help") return mostrarAyuda();
   if (args.size() == 1 && args[0] == "--version") {
@@ -61,6 +81,7 @@ int correr(std::span<std::string const> args) {
     return 0;
   }
   if (!args.empty() && args[0] == "open") return abrirVentana(args.subspan(1));
+  if (!args.empty() && args[0] == "focus") return enfocarVentana(args.subspan(1));
   return quejarse("wrong usage; see zorve-terminal --help", usoIncorrecto);
 }
 

@@ -90,6 +90,21 @@ TEST_P(CadaTerminalDeLinux, hospedaASusProcesosYANingunOtro) {
   }
 }
 
+TEST(TerminalesDeLinux, soloEnfocaLaQuePuedeEnSuSesionGrafica) {
+  SoloHay const ninguna{{}};
+  for (auto const sesion : {SesionGrafica::otra, SesionGrafica::x11}) {
+    for (auto const& uno : terminalesDeLinux(ninguna, "/z", sesion)) {
+      bool const puede = sesion == SesionGrafica::x11 && fichaDeLinux(uno->identificador())->enfocableEnX;
+      EXPECT_EQ(uno->puedeEnfocar(), puede) << uno->identificador();
+      PlanDeApertura const orden =
+          std::vector{ComandoDeApertura{"/z", {"focus", uno->identificador(), "pts/3"}}};
+      EXPECT_EQ(uno->planParaEnfocar("/dev/pts/3"), puede ? orden : NoSePuedeEnfocar{"pts/3"});
+      EXPECT_EQ(uno->planParaEnfocar("pts/3"), uno->planParaEnfocar("/dev/pts/3"));
+    }
+  }
+  EXPECT_TRUE(fichaDeLinux("xterm")->enfocableEnX);
+}
+
 TEST(TerminalesDeLinux, ningunProcesoTieneDosDuenos) {
   std::set<std::string> vistos;
   for (auto const& ficha : fichasDeLinux()) {

@@ -18,6 +18,7 @@
 #include "ZorvePlatform/Linux/InicioDeSesionLinux.h"
 #include "ZorvePlatform/Linux/ManejadorLinux.h"
 #include "ZorvePlatform/Linux/PreferenciasLinux.h"
+#include "ZorvePlatform/Linux/SesionGraficaLinux.h"
 #include "ZorvePlatform/Posix/ArchivosPosix.h"
 #include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
 #include "ZorvePlatform/Posix/Hogar.h"
@@ -59,13 +60,13 @@ struct Mundo {
   PortapapelesQt portapapeles;
   DespachadorQt despachador;
   AplicacionesLinux aplicaciones{entorno};
-  ManejadorLinux manejador;
+  ManejadorLinux manejador{LugaresDelManejador::delProceso(entorno)};
   PreferenciasLinux preferencias{PreferenciasLinux::archivoPorDefecto(entorno)};
   InicioDeSesionLinux inicio{entorno, ejecutable};
   BanderasDeUsuario banderas{preferencias};
   PreferenciaDeIdioma idioma{preferencias};
   CatalogoDeTerminales catalogo{
-      .conocidas = terminalesDeLinux(aplicaciones, rutaDelAyudante(ejecutable)),
+      .conocidas = terminalesDeLinux(aplicaciones, rutaDelAyudante(ejecutable), sesionGraficaDelProceso()),
       .manejadorDelSistema =
           [this] { return manejador.aplicacionPara(CatalogoDeTerminales::tipoDeGuionDeShell); },
       .leerEleccion = [this] { return eleccionGuardada(preferencias); }};

@@ -4,6 +4,7 @@
 #include "ZorvePlatform/Linux/ManejadorLinux.h"
 #include "ZorvePlatform/Linux/PreferenciasLinux.h"
 #include "ZorvePlatform/Linux/RutaDelAyudante.h"
+#include "ZorvePlatform/Linux/SesionGraficaLinux.h"
 #include "ZorvePlatform/ServiciosDeTerminal.h"
 
 namespace zorve {
@@ -26,7 +27,8 @@ ServiciosDeTerminal serviciosDeTerminal(std::string const& home) {
       .manejador = std::make_unique<ManejadorLinux>(LugaresDelManejador::delProceso(entorno)),
       .preferencias = std::make_unique<PreferenciasLinux>(PreferenciasLinux::archivoPorDefecto(entorno)),
       .rutaPs = rutaDePs(entorno)};
-  servicios.propias = terminalesDeLinux(*servicios.aplicaciones, rutaDelAyudante());
+  servicios.propias =
+      terminalesDeLinux(*servicios.aplicaciones, rutaDelAyudante(), sesionGraficaDelProceso());
   servicios.ajenas = todas(*servicios.aplicaciones);
   return servicios;
 }

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "ZorveCore/FichaDeTerminal.h"
+
+namespace zorve {
+
+/// What draws this process's windows, from its environment: an X server where $DISPLAY names one and no
+/// Wayland compositor is named. Call it before other threads run.
+[[nodiscard]] SesionGrafica sesionGraficaDelProceso();
+
+}  // namespace zorve

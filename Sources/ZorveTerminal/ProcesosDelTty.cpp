@@ -1,0 +1,96 @@
+#include "ZorveTerminal/ProcesosDelTty.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <charconv>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <string_view>
+
+#include "ZorveCore/Escape.h"
+
+namespace zorve {
+
+namespace {
+
+constexpr std::size_t generacionesComoMucho = 64;
+
+std::string leer(std::string const& ruta) {
+  std::ifstream entrada{ruta, std::ios::binary};
+  return {std::istreambuf_iterator<char>{entrada}, {}};
+}
+
+std::optional<pid_t> numero(std::string_view texto) {
+  pid_t valor = 0;
+  auto const* const fin = texto.data() + texto.size();
+  auto const [hasta, error] = std::from_chars(texto.data(), fin, valor);
+  return error == std::errc{} && hasta == fin ? std::optional{valor} : std::nullopt;
+}
+
+bool esNombreDeTty(std::string_view nombre) {
+  return !nombre.empty() && !nombre.contains("..") && std::ranges::all_of(nombre, [](char letra) {
+    return (letra >= 'a' && letra <= 'z') || (letra >= 'A' && letra <= 'Z') ||
+           (letra >= '0' && letra <= '9') || letra == '/';
+  });
+}
+
+dev_t dispositivo(std::string const& tty) {
+  struct stat estado{};
+  auto const nombre = ttyCorto(tty);
+  if (!esNombreDeTty(nombre) || ::stat(("/dev/" + nombre).c_str(), &estado) != 0) return 0;
+  return S_ISCHR(estado.st_mode) ? estado.st_rdev : 0;
+}
+
+}  // namespace
+
+std::optional<Proceso> leerStat(std::string const& texto) {
+  auto const cierre = texto.rfind(')');
+  auto const pid = numero(std::string_view{texto}.substr(0, texto.find(' ')));
+  if (cierre == std::string::npos || !pid) return std::nullopt;
+  std::istringstream resto{texto.substr(cierre + 1)};
+  std::string estado;
+  pid_t grupo = 0;
+  Proceso proceso{.pid = *pid};
+  if (!(resto >> estado >> proceso.padre >> grupo >> proceso.sesion >> proceso.tty)) return std::nullopt;
+  return proceso;
+}
+
+std::optional<Proceso> procesoVivo(pid_t pid) {
+  return leerStat(leer("/proc/" + std::to_string(pid) + "/stat"));
+}
+
+std::optional<Proceso> liderDelTty(std::string const& tty) {
+  auto const cual = dispositivo(tty);
+  if (cual == 0) return std::nullopt;
+  std::error_code error;
+  for (auto const& entrada : std::filesystem::directory_iterator{"/proc", error}) {
+    auto const pid = numero(entrada.path().filename().native());
+    auto const proceso = pid ? procesoVivo(*pid) : std::nullopt;
+    if (proceso && proceso->tty == cual && proceso->sesion == proceso->pid) return proceso;
+  }
+  return std::nullopt;
+}
+
+std::vector<pid_t> ascendencia(Proceso const& proceso) {
+  std::vector<pid_t> pids;
+  for (std::optional<Proceso> actual{proceso}; actual && actual->pid > 1;
+       actual = procesoVivo(actual->padre)) {
+    if (pids.size() == generacionesComoMucho) break;
+    pids.push_back(actual->pid);
+  }
+  return pids;
+}
+
+std::string variableDelProceso(pid_t pid, std::string const& nombre) {
+  auto const entorno = std::string(1, '\0') + leer("/proc/" + std::to_string(pid) + "/environ");
+  auto const clave = std::string(1, '\0') + nombre + "=";
+  auto const donde = entorno.find(clave);
+  if (donde == std::string::npos) return {};
+  auto const desde = donde + clave.size();
+  return entorno.substr(desde, entorno.find('\0', desde) - desde);
+}
+
+}  // namespace zorve

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <sys/types.h>
+
+namespace zorve {
+
+/// A process as /proc tells it.
+struct Proceso {
+  pid_t pid = 0;
+  pid_t padre = 0;
+  pid_t sesion = 0;
+  /// The device number of its terminal, 0 for none.
+  dev_t tty = 0;
+  bool operator==(Proceso const&) const = default;
+};
+
+/// What the text of /proc/PID/stat says; nothing when it cannot be understood. A process may be named
+/// anything, blanks and parentheses included.
+[[nodiscard]] std::optional<Proceso> leerStat(std::string const& texto);
+
+/// The process at this moment, or nothing.
+[[nodiscard]] std::optional<Proceso> procesoVivo(pid_t pid);
+
+/// The process that leads the session on the terminal device `tty` (with or without "/dev/"); nothing when
+/// there is no such device or no such process.
+[[nodiscard]] std::optional<Proceso> liderDelTty(std::string const& tty);
+
+/// The process and those that it descends from, itself first, at most 64.
+[[nodiscard]] std::vector<pid_t> ascendencia(Proceso const& proceso);
+
+/// A variable that the process was started with, or the empty text.
+[[nodiscard]] std::string variableDelProceso(pid_t pid, std::string const& nombre);
+
+}  // namespace zorve

@@ -1,0 +1,120 @@
+#include "ZorveTerminal/VentanasX.h"
+
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <optional>
+#include <string_view>
+#include <thread>
+
+namespace zorve {
+
+namespace {
+
+using Reloj = std::chrono::steady_clock;
+
+constexpr std::uint32_t todosLosEscritorios = 0xFFFFFFFFU;
+constexpr std::uint32_t comoUnPaginador = 2;
+constexpr std::uint32_t maximoDePalabras = 16384;
+constexpr std::chrono::milliseconds entreMiradas{20};
+constexpr std::chrono::milliseconds entrePeticiones{500};
+
+template <class T>
+struct Liberar {
+  void operator()(T* algo) const { std::free(algo); }  // NOLINT(cppcoreguidelines-no-malloc): xcb's contract
+};
+template <class T>
+using Respuesta = std::unique_ptr<T, Liberar<T>>;
+
+}  // namespace
+
+struct VentanasX::Conexion {
+  Conexion() {
+    int pantalla = 0;
+    x = xcb_connect(nullptr, &pantalla);
+    if (xcb_connection_has_error(x) != 0) return;
+    auto pantallas = xcb_setup_roots_iterator(xcb_get_setup(x));
+    for (; pantalla > 0 && pantallas.rem > 0; --pantalla) xcb_screen_next(&pantallas);
+    if (pantallas.rem > 0) raiz = pantallas.data->root;
+  }
+  Conexion(Conexion const&) = delete;
+  Conexion& operator=(Conexion const&) = delete;
+  ~Conexion() { xcb_disconnect(x); }
+
+  [[nodiscard]] xcb_atom_t atomo(std::string_view nombre) const {
+    auto const pedido = xcb_intern_atom(x, 0, static_cast<std::uint16_t>(nombre.size()), nombre.data());
+    Respuesta<xcb_intern_atom_reply_t> const respuesta{xcb_intern_atom_reply(x, pedido, nullptr)};
+    return respuesta ? respuesta->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+  }
+
+  [[nodiscard]] std::vector<std::uint32_t> numeros(xcb_window_t ventana, std::string_view nombre) const {
+    auto const pedido =
+        xcb_get_property(x, 0, ventana, atomo(nombre), XCB_GET_PROPERTY_TYPE_ANY, 0, maximoDePalabras);
+    Respuesta<xcb_get_property_reply_t> const respuesta{xcb_get_property_reply(x, pedido, nullptr)};
+    if (!respuesta || respuesta->format != 32) return {};
+    auto const* const datos = static_cast<std::uint32_t const*>(xcb_get_property_value(respuesta.get()));
+    return {datos, datos + respuesta->value_len};
+  }
+
+  [[nodiscard]] std::optional<std::uint32_t> numero(xcb_window_t ventana, std::string_view nombre) const {
+    auto const todos = numeros(ventana, nombre);
+    return todos.empty() ? std::nullopt : std::optional{todos.front()};
+  }
+
+  void pedir(xcb_window_t ventana, std::string_view nombre, std::uint32_t primero) const {
+    xcb_client_message_event_t mensaje{};
+    mensaje.response_type = XCB_CLIENT_MESSAGE;
+    mensaje.format = 32;
+    mensaje.window = ventana;
+    mensaje.type = atomo(nombre);
+    mensaje.data.data32[0] = primero;
+    mensaje.data.data32[1] = XCB_CURRENT_TIME;
+    xcb_send_event(x, 0, raiz, XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<char const*>(&mensaje));
+    xcb_flush(x);
+  }
+
+  void irASuEscritorio(xcb_window_t ventana) const {
+    auto const suyo = numero(ventana, "_NET_WM_DESKTOP");
+    if (suyo && *suyo != todosLosEscritorios && suyo != numero(raiz, "_NET_CURRENT_DESKTOP")) {
+      pedir(raiz, "_NET_CURRENT_DESKTOP", *suyo);
+    }
+  }
+
+  xcb_connection_t* x = nullptr;
+  xcb_window_t raiz = XCB_WINDOW_NONE;
+};
+
+VentanasX::VentanasX() : conexion_{std::make_unique<Conexion>()} {}
+
+VentanasX::~VentanasX() = default;
+
+bool VentanasX::abierta() const { return conexion_->raiz != XCB_WINDOW_NONE; }
+
+std::vector<VentanaX> VentanasX::todas() const {
+  if (!abierta()) return {};
+  std::vector<VentanaX> ventanas;
+  for (auto const ventana : conexion_->numeros(conexion_->raiz, "_NET_CLIENT_LIST")) {
+    auto const pid = conexion_->numero(ventana, "_NET_WM_PID").value_or(0);
+    ventanas.push_back({ventana, static_cast<pid_t>(pid)});
+  }
+  return ventanas;
+}
+
+bool VentanasX::activar(std::uint32_t ventana, std::chrono::milliseconds plazo) const {
+  if (!abierta()) return false;
+  auto const limite = Reloj::now() + plazo;
+  auto siguiente = Reloj::now();
+  while (Reloj::now() < limite) {
+    if (Reloj::now() >= siguiente) {
+      conexion_->irASuEscritorio(ventana);
+      conexion_->pedir(ventana, "_NET_ACTIVE_WINDOW", comoUnPaginador);
+      siguiente = Reloj::now() + entrePeticiones;
+    }
+    if (conexion_->numero(conexion_->raiz, "_NET_ACTIVE_WINDOW") == ventana) return true;
+    std::this_thread::sleep_for(entreMiradas);
+  }
+  return false;
+}
+
+}  // namespace zorve
