@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <utility>
+
 #include "ZorveCore/Preferencias.h"
 
 namespace zorve {
@@ -9,7 +12,7 @@ namespace zorve {
 /// object waits for that, so that a program that ends at once loses nothing. Writing does not fail.
 class PreferenciasMac final : public Preferencias {
  public:
-  PreferenciasMac() = default;
+  explicit PreferenciasMac(std::string dominio = "com.sarnol.zorve") : dominio_{std::move(dominio)} {}
   PreferenciasMac(PreferenciasMac const&) = delete;
   PreferenciasMac& operator=(PreferenciasMac const&) = delete;
   ~PreferenciasMac() override;
@@ -18,6 +21,9 @@ class PreferenciasMac final : public Preferencias {
   [[nodiscard]] std::expected<void, IndexError> escribir(std::string const& clave,
                                                          Valor const& valor) override;
   [[nodiscard]] std::expected<void, IndexError> quitar(std::string const& clave) override;
+
+ private:
+  std::string dominio_;
 };
 
 }  // namespace zorve

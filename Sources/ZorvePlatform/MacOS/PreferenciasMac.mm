@@ -8,14 +8,12 @@ namespace zorve {
 
 namespace {
 
-NSString* const dominio = @"com.sarnol.zorve";
-
 /// The system refuses the running bundle's own identifier as a name.
-NSUserDefaults* almacen() {
-  static NSUserDefaults* const unico = [NSBundle.mainBundle.bundleIdentifier isEqualToString:dominio]
-                                           ? NSUserDefaults.standardUserDefaults
-                                           : [[NSUserDefaults alloc] initWithSuiteName:dominio];
-  return unico;
+NSUserDefaults* almacen(std::string const& dominio) {
+  NSString* const nombre = cadena(dominio);
+  if ([NSBundle.mainBundle.bundleIdentifier isEqualToString:nombre])
+    return NSUserDefaults.standardUserDefaults;
+  return [[NSUserDefaults alloc] initWithSuiteName:nombre];
 }
 
 NSObject* objetoDe(Preferencias::Valor const& valor) {
@@ -27,30 +25,31 @@ NSObject* objetoDe(Preferencias::Valor const& valor) {
 
 PreferenciasMac::~PreferenciasMac() {
   @autoreleasepool {
-    [almacen() synchronize];
+    [almacen(dominio_) synchronize];
   }
 }
 
 std::expected<std::optional<Preferencias::Valor>, IndexError> PreferenciasMac::leer(
     std::string const& clave) const {
   @autoreleasepool {
-    id const valor = [almacen() objectForKey:cadena(clave)];
+    NSUserDefaults* const defaults = almacen(dominio_);
+    id const valor = [defaults objectForKey:cadena(clave)];
     if ([valor isKindOfClass:NSString.class]) return Valor{textoDe(static_cast<NSString*>(valor))};
-    if ([valor isKindOfClass:NSNumber.class]) return Valor{[almacen() boolForKey:cadena(clave)] == YES};
+    if ([valor isKindOfClass:NSNumber.class]) return Valor{[defaults boolForKey:cadena(clave)] == YES};
     return std::nullopt;
   }
 }
 
 std::expected<void, IndexError> PreferenciasMac::escribir(std::string const& clave, Valor const& valor) {
   @autoreleasepool {
-    [almacen() setObject:objetoDe(valor) forKey:cadena(clave)];
+    [almacen(dominio_) setObject:objetoDe(valor) forKey:cadena(clave)];
   }
   return {};
 }
 
 std::expected<void, IndexError> PreferenciasMac::quitar(std::string const& clave) {
   @autoreleasepool {
-    [almacen() removeObjectForKey:cadena(clave)];
+    [almacen(dominio_) removeObjectForKey:cadena(clave)];
   }
   return {};
 }
