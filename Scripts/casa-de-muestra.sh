@@ -15,7 +15,7 @@ sesion() {
   local hace=$1 carpeta=$2 cuantos=$3 titulo=$4 i
   numero=$((numero + 1))
   id=$(printf '%08d-5e55-4000-8000-%012d' "$numero" "$numero")
-  carpeta=${carpeta/#\~/$casa}
+  carpeta=${carpeta/#CASA/$casa}
   for ((i = 1; i <= cuantos; i++)); do
     printf '{"display":"%s","timestamp":%d000,"project":"%s","sessionId":"%s"}\n' \
       "${titulo/#-/Why does the parser keep the first title?}" $((ahora - hace - (cuantos - i) * 60)) "$carpeta" "$id"
@@ -35,24 +35,24 @@ viva() {
 }
 
 lista() {
-  sesion 20 "~/src/zorve" 42 "Rewrite the history parser for streaming reads"
+  sesion 20 "CASA/src/zorve" 42 "Rewrite the history parser for streaming reads"
   viva busy
-  sesion 400 "~/src/zorve" 12 "Parser fails on lone surrogates"
+  sesion 400 "CASA/src/zorve" 12 "Parser fails on lone surrogates"
   viva idle
-  sesion 7300 "~/trabajo/señales" 7 "Añadir pruebas del parser y documentar los casos límite"
-  sesion 18100 "~/src/bench/parser" 31 "Benchmark the parser against a bare read"
-  sesion 90000 "~/src/parser" 3 "Draw the tray icon for light and dark bars"
+  sesion 7300 "CASA/trabajo/señales" 7 "Añadir pruebas del parser y documentar los casos límite"
+  sesion 18100 "CASA/src/bench/parser" 31 "Benchmark the parser against a bare read"
+  sesion 90000 "CASA/src/parser" 3 "Draw the tray icon for light and dark bars"
   sesion 260000 "/srv/team/it's complicated" 1 -
-  sesion 1040000 "~/src/fuzz" 88 "Review parser fuzz corpus 🧪"
-  sesion 1300000 "~/src/web" 5 "إصلاح البحث في قائمة الجلسات"
-  sesion 1500000 "~/src/site" 19 "Move the docs to one page"
-  sesion 2000000 "~/src/infra" 64 "Rotate the build cache before it fills the disk"
-  sesion 2600000 "~/src/zorve" 9 "Name every seam of the platform layer"
+  sesion 1040000 "CASA/src/fuzz" 88 "Review parser fuzz corpus 🧪"
+  sesion 1300000 "CASA/src/web" 5 "إصلاح البحث في قائمة الجلسات"
+  sesion 1500000 "CASA/src/site" 19 "Move the docs to one page"
+  sesion 2000000 "CASA/src/infra" 64 "Rotate the build cache before it fills the disk"
+  sesion 2600000 "CASA/src/zorve" 9 "Name every seam of the platform layer"
 }
 
 muchas() {
   local i
-  for ((i = 0; i < clase; i++)); do sesion $((i * 97)) "~/src/proyecto$((i % 37))" 1 "Session number $i of a long list"; done
+  for ((i = 0; i < clase; i++)); do sesion $((i * 97)) "CASA/src/proyecto$((i % 37))" 1 "Session number $i of a long list"; done
 }
 
 case "$clase" in

@@ -88,3 +88,9 @@ muestra_avance() {
   done
   printf '\r\e[K' >&2
 }
+
+# con_frente PRESET: the front end is part of the build, though its packages may have come after the first one.
+con_frente() {
+  ! grep -qs '^ZORVE_FRONT_END:BOOL=OFF' "build/$1/CMakeCache.txt" ||
+    callado "build/$1.configure.log" cmake --preset "$1" -DZORVE_FRONT_END=ON
+}

@@ -17,6 +17,8 @@ namespace zorve {
 
 namespace {
 
+/// An embedded icon knows its place, and its bar is painted, after this long.
+constexpr std::chrono::milliseconds esperaDeLaBarra{400};
 constexpr std::chrono::milliseconds primerReintento{250};
 constexpr std::chrono::milliseconds ultimoReintento{60'000};
 
@@ -41,8 +43,8 @@ bool soloMuestraMenus() {
   });
 }
 
-/// A light bar has a dark foreground; the tray of X11 tells it, red, green and blue first, 16 bits each.
-std::optional<bool> barraClaraDeX11() {
+/// What the tray of X11 says of its foreground: red, green and blue first, 16 bits each.
+std::optional<bool> barraClaraSegunX11() {
   auto* const conexion = X11::conexion();
   if (!conexion) return std::nullopt;
   auto const bandeja = X11::duenoDe(conexion, "_NET_SYSTEM_TRAY_S0");
@@ -50,6 +52,15 @@ std::optional<bool> barraClaraDeX11() {
                                     : X11::propiedad(conexion, bandeja, "_NET_SYSTEM_TRAY_COLORS");
   if (colores.size() < 3) return std::nullopt;
   return colores[0] + colores[1] + colores[2] < 3 * 0x8000;
+}
+
+/// What an embedded icon stands on, by the pixel at its corner.
+std::optional<bool> barraClaraBajo(QRect const& icono) {
+  if (!X11::conexion() || icono.isEmpty()) return std::nullopt;
+  auto const escala = qGuiApp->devicePixelRatio();
+  auto const color = X11::pixel(X11::conexion(), (QPointF{icono.topLeft()} * escala).toPoint());
+  if (!color) return std::nullopt;
+  return qGray(*color) > 0x80;
 }
 
 }  // namespace
@@ -83,11 +94,14 @@ void ElementoDeBarra::intentar() {
   connect(icono_.get(), &QSystemTrayIcon::activated, this, &ElementoDeBarra::alActivar);
   vestir();
   icono_->show();
+  QTimer::singleShot(esperaDeLaBarra, this, &ElementoDeBarra::vestir);
 }
 
 void ElementoDeBarra::vestir() {
   if (!puesto()) return;
-  icono_->setIcon(iconoDeBarra(tintaSobre(barraClaraDeX11().value_or(barraClara_))));
+  auto const segunX11 = barraClaraSegunX11();
+  auto const visto = segunX11 ? segunX11 : barraClaraBajo(icono_->geometry());
+  icono_->setIcon(iconoDeBarra(tintaSobre(visto.value_or(barraClara_))));
 }
 
 void ElementoDeBarra::escribirBarraClara(bool clara) {
@@ -122,7 +136,8 @@ void ElementoDeBarra::alActivar(QSystemTrayIcon::ActivationReason razon) {
   ultimoClic_ = Ancla{QRect{QCursor::pos(), QSize{1, 1}}, true};
   bool const abreSuMenu = !icono_->geometry().isEmpty();
   bool const conControl = QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ControlModifier);
-  if (razon == QSystemTrayIcon::Trigger) acciones_.clic({false, conControl});
+  bool const principal = razon == QSystemTrayIcon::Trigger || razon == QSystemTrayIcon::DoubleClick;
+  if (principal) acciones_.clic({false, conControl});
   if (razon == QSystemTrayIcon::Context && !abreSuMenu) acciones_.clic({true, conControl});
 }
 

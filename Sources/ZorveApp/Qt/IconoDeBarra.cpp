@@ -53,6 +53,22 @@ class MotorDeMarca final : public QIconEngine {
 
 QIcon iconoDeBarra(QColor const& color) { return QIcon{new MotorDeMarca{color, nombreInstalado()}}; }
 
+QIcon iconoDeLaAplicacion() {
+  constexpr int lado = 64;
+  constexpr double margen = 6;
+  constexpr double radio = 12;
+  QPixmap tejuela{lado, lado};
+  tejuela.fill(Qt::transparent);
+  QPainter pintor{&tejuela};
+  pintor.setRenderHint(QPainter::Antialiasing);
+  QRectF const marco = QRectF{tejuela.rect()}.adjusted(margen, margen, -margen, -margen);
+  pintor.setPen(Qt::NoPen);
+  pintor.setBrush(aQColor(Estilo::tinteBase));
+  pintor.drawRoundedRect(marco, radio, radio);
+  pintor.fillPath(trazoDeMarca(marco.adjusted(8, 8, -8, -8)), aQColor(Estilo::acento));
+  return QIcon{tejuela};
+}
+
 QColor tintaSobre(bool barraClara) { return aQColor(barraClara ? Estilo::tinteBase : Estilo::textoAlto); }
 
 }  // namespace zorve

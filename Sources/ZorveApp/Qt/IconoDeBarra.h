@@ -12,4 +12,7 @@ namespace zorve {
 /// Light for a dark bar, dark for a light one.
 [[nodiscard]] QColor tintaSobre(bool barraClara);
 
+/// The application's own icon: the mark on its dark tile.
+[[nodiscard]] QIcon iconoDeLaAplicacion();
+
 }  // namespace zorve

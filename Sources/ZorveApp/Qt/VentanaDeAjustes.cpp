@@ -6,6 +6,7 @@
 #include "ZorveApp/Estilo.h"
 #include "ZorveApp/Qt/Conversiones.h"
 #include "ZorveApp/Qt/EstiloQt.h"
+#include "ZorveApp/Qt/IconoDeBarra.h"
 #include "ZorveApp/Qt/TeclasQt.h"
 
 namespace zorve {
@@ -20,12 +21,15 @@ VentanaDeAjustes::VentanaDeAjustes(VistaAjustes& vista, ModeloDeAjustes& modelo,
                                    PreferenciaDeIdioma const& idioma)
     : vista_{vista}, puente_{vista, modelo, idioma} {
   setTitle(aQString(VistaAjustes::tituloDeLaVentana));
-  setFlags(Qt::Dialog);
+  setFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint);
+  setIcon(iconoDeLaAplicacion());
   setColor(aQColor(Estilo::tinteBase));
   setMinimumSize(tamano);
   setMaximumSize(tamano);
   resize(tamano);
 }
+
+VentanaDeAjustes::~VentanaDeAjustes() { setSource({}); }
 
 void VentanaDeAjustes::construir() {
   if (status() != QQuickView::Null) return;

@@ -13,6 +13,7 @@ class VentanaDeAjustes final : public QQuickView {
  public:
   /// Everything referenced outlives the window.
   VentanaDeAjustes(VistaAjustes& vista, ModeloDeAjustes& modelo, PreferenciaDeIdioma const& idioma);
+  ~VentanaDeAjustes() override;
 
   /// Loads, and brings the window to the front with the keyboard; the first time in the middle of the screen.
   void mostrar();

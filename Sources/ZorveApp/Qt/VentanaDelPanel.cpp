@@ -16,7 +16,7 @@ namespace {
 
 constexpr QSize tamanoDelPanel{static_cast<int>(Medidas::panel.ancho), static_cast<int>(Medidas::panel.alto)};
 constexpr double densidadConDesenfoque = 0.72;
-constexpr double densidadSinDesenfoque = 0.93;
+constexpr double densidadSinDesenfoque = 0.95;
 constexpr qint64 momento = 400;
 constexpr int alcanceDelIcono = 20;
 
@@ -111,7 +111,8 @@ void VentanaDelPanel::alPulsarFuera(QPoint donde) {
 
 void VentanaDelPanel::alCambiarElFoco() {
   auto const* const foco = QGuiApplication::focusWindow();
-  if (!isVisible() || foco == this || (!foco && escritorio_.tieneElTeclado(*this))) return;
+  bool const esUnMenu = foco && foco->type() == Qt::Popup;
+  if (!isVisible() || foco == this || esUnMenu || (!foco && escritorio_.tieneElTeclado(*this))) return;
   cerradaPorFuera_ = milisegundos();
   esconder();
 }

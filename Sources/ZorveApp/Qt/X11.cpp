@@ -40,4 +40,14 @@ std::vector<std::uint32_t> propiedad(xcb_connection_t* conexion, xcb_window_t de
   return {todos.begin(), todos.end()};
 }
 
+std::optional<QRgb> pixel(xcb_connection_t* conexion, QPoint donde) {
+  auto const pedido =
+      xcb_get_image(conexion, XCB_IMAGE_FORMAT_Z_PIXMAP, raiz(conexion), static_cast<std::int16_t>(donde.x()),
+                    static_cast<std::int16_t>(donde.y()), 1, 1, 0xFFFFFF);
+  Respuesta<xcb_get_image_reply_t> const imagen{xcb_get_image_reply(conexion, pedido, nullptr)};
+  if (!imagen || imagen->depth != 24 || xcb_get_image_data_length(imagen.get()) < 4) return std::nullopt;
+  auto const* const color = xcb_get_image_data(imagen.get());
+  return qRgb(color[2], color[1], color[0]);
+}
+
 }  // namespace zorve::X11

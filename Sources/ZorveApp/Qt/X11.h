@@ -3,9 +3,12 @@
 #include <xcb/xcb.h>
 
 #include <QByteArray>
+#include <QPoint>
+#include <QRgb>
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace zorve::X11 {
@@ -27,5 +30,9 @@ using Respuesta = std::unique_ptr<T, Liberar>;
 /// The 32-bit items of a property; empty when it is absent or of another width.
 [[nodiscard]] std::vector<std::uint32_t> propiedad(xcb_connection_t* conexion, xcb_window_t de,
                                                    QByteArray const& nombre);
+
+/// The colour of the screen at `donde`, in native pixels; nothing where it cannot be read or is not of 24
+/// bits.
+[[nodiscard]] std::optional<QRgb> pixel(xcb_connection_t* conexion, QPoint donde);
 
 }  // namespace zorve::X11

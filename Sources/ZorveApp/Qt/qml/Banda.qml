@@ -19,6 +19,8 @@ Item {
         clip: true
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
+        onCountChanged: Qt.callLater(positionViewAtEnd)
+        onContentHeightChanged: if (interactive) Qt.callLater(positionViewAtEnd)
         delegate: Tarjeta {
             required property var modelData
             width: ListView.view.width
@@ -27,5 +29,5 @@ Item {
         }
     }
 
-    Desplazamiento { lista: lista; anchors.rightMargin: 4 }
+    Desplazamiento { lista: lista; anchors.rightMargin: -8 }
 }

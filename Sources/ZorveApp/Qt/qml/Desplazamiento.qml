@@ -1,6 +1,6 @@
 import QtQuick
 
-// A thin mark of the place in a list that scrolls, shown while it moves or the pointer is over it.
+// A thin mark of the place in a list that scrolls, stronger while it moves.
 Rectangle {
     property Flickable lista
 
@@ -11,5 +11,5 @@ Rectangle {
     radius: 1.5
     color: estilo.textoDebil
     visible: lista.visibleArea.heightRatio < 1
-    opacity: lista.moving ? 0.8 : 0.35
+    opacity: lista.moving ? 0.8 : 0.25
 }

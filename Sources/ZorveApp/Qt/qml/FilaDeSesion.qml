@@ -40,7 +40,7 @@ Item {
     Text {
         id: letreroDeTitulo
         anchors { left: parent.left; leftMargin: estilo.xDeTitulo; right: letreroDeTiempo.left; rightMargin: 14 }
-        y: 28 - 2 - height
+        y: 9
         height: 20
         verticalAlignment: Text.AlignVCenter
         clip: true
@@ -89,7 +89,7 @@ Item {
     Text {
         id: letreroDeConteo
         anchors { right: letreroDeTiempo.right }
-        y: 28 + 3
+        y: 30
         text: fila.conteo
         textFormat: Text.PlainText
         font.pointSize: estilo.letraDerecha

@@ -1,0 +1,174 @@
+# shellcheck shell=bash
+# What the desktop tests share. Each runs on an X server, a session bus and in a home of its own; everything
+# that it starts ends with it. Sourced with the program's folder in ZORVE_BIN.
+set -euo pipefail
+aqui=$(realpath "$(dirname "${BASH_SOURCE[0]}")")
+raiz=$(realpath "$aqui/../..")
+bin=${ZORVE_BIN:?the folder that holds zorve}
+casa=$(mktemp -d)
+hijos=()
+
+limpia() {
+  local estado=$?
+  [ "$estado" -eq 0 ] || cuenta_lo_visto
+  kill "${hijos[@]}" 2>/dev/null || :
+  wait 2>/dev/null || :
+  rm -rf "$casa"
+  exit "$estado"
+}
+trap limpia EXIT
+
+cuenta_lo_visto() {
+  echo "--- windows" >&2
+  xwininfo -root -tree 2>/dev/null | grep -E '"|[0-9]+x[0-9]+' | head -n 40 >&2 || :
+  echo "--- what zorve wrote" >&2
+  cat "$casa"/zorve.err >&2 || :
+  if [ -n "${ZORVE_FOTOS:-}" ]; then import -window root "$ZORVE_FOTOS/$(basename "$0" .sh).png" || :; fi
+}
+
+fallo() {
+  echo "failed: $*" >&2
+  exit 1
+}
+
+# espera COMMAND...: until it succeeds; fails after half a minute.
+espera() {
+  local fin=$((SECONDS + 30))
+  until "$@" >/dev/null 2>&1; do
+    [ "$SECONDS" -lt "$fin" ] || fallo "waited in vain for: $*"
+    sleep 0.05
+  done
+}
+
+no() { ! "$@"; }
+
+# arranca NAME COMMAND...: in the background, what it writes in $casa/NAME.err.
+arranca() {
+  local nombre=$1
+  shift
+  "$@" >"$casa/$nombre.out" 2>"$casa/$nombre.err" &
+  hijos+=($!)
+  ultimo=$!
+}
+
+# servidor [SCREENS]: the X server; SCREENS are Xvfb's.
+servidor() {
+  [ $# -gt 0 ] || set -- -screen 0 1280x800x24
+  Xvfb -displayfd 3 "$@" -nolisten tcp -noreset 3>"$casa/pantalla" 2>/dev/null &
+  hijos+=($!)
+  espera test -s "$casa/pantalla"
+  DISPLAY=:$(cat "$casa/pantalla")
+  export DISPLAY
+}
+
+bus() {
+  dbus-daemon --session --nofork --print-address=3 3>"$casa/bus" 2>/dev/null &
+  hijos+=($!)
+  espera test -s "$casa/bus"
+  DBUS_SESSION_BUS_ADDRESS=$(cat "$casa/bus")
+  export DBUS_SESSION_BUS_ADDRESS
+}
+
+# escritorio [KIND [SCREENS...]]: a whole desktop over a made-up home; the panel has been shown before.
+escritorio() {
+  local clase=${1:-lista}
+  [ $# -eq 0 ] || shift
+  servidor "$@"
+  bus
+  mkdir -p "$casa/run" "$casa/.config/com.sarnol.zorve"
+  chmod 700 "$casa/run"
+  export HOME=$casa XDG_CONFIG_HOME=$casa/.config XDG_RUNTIME_DIR=$casa/run XDG_DATA_HOME=$casa/.local/share
+  unset XDG_CURRENT_DESKTOP WAYLAND_DISPLAY LC_ALL
+  export LANG=C.UTF-8
+  "$raiz/Scripts/casa-de-muestra.sh" "$casa" $$ "$clase"
+  preferencias '{"app.zorve.panelMostradoEnPrimerArranque":true,"zorve.avisoDeBandejaMostrado":true}'
+  arranca openbox openbox
+  espera xprop -root _NET_SUPPORTING_WM_CHECK
+}
+
+preferencias() { printf '%s\n' "$1" >"$casa/.config/com.sarnol.zorve/preferences.json"; }
+
+tiene_nombre() {
+  dbus-send --session --print-reply --dest=org.freedesktop.DBus /org/freedesktop/DBus \
+    org.freedesktop.DBus.NameHasOwner "string:$1" | grep -q 'boolean true'
+}
+
+zorve() {
+  arranca zorve "$bin/zorve"
+  # shellcheck disable=SC2034 # the tests read it
+  zorve_pid=$ultimo
+  espera tiene_nombre com.sarnol.zorve
+}
+
+segundo() { timeout 20 "$bin/zorve"; }
+
+# ventana SIZE: the program's visible window of that size; the tray icon has the same name.
+ventana() {
+  local cada
+  for cada in $(xdotool search --onlyvisible --name '^Zorve$' 2>/dev/null); do
+    [[ $(lugar "$cada") == *" $1" ]] && echo "$cada" && return 0
+  done
+  return 1
+}
+panel() { ventana '440 560'; }
+ajustes() { ventana '620 460'; }
+panel_visible() { panel >/dev/null; }
+panel_con_teclado() { [ "$(xdotool getwindowfocus)" = "$(panel)" ]; }
+panel_o_ajustes_con_teclado() { xdotool getwindowfocus getwindowname | grep -qx Zorve; }
+muestra() {
+  segundo
+  espera panel_visible
+  espera panel_con_teclado
+}
+terminado() { ! kill -0 "$1" 2>/dev/null; }
+
+# lugar WINDOW: x y width height.
+lugar() {
+  xdotool getwindowgeometry --shell "$1" | awk -F= '{ v[$1] = $2 } END { print v["X"], v["Y"], v["WIDTH"], v["HEIGHT"] }'
+}
+centro() {
+  local x y ancho alto
+  read -r x y ancho alto < <(lugar "$1")
+  echo "$((x + ancho / 2)) $((y + alto / 2))"
+}
+pulsa_en() { xdotool mousemove "$1" "$2" click "${3:-1}"; }
+
+portapapeles() { xclip -selection clipboard -o; }
+portapapeles_es() { [ "$(portapapeles)" = "$1" ]; }
+
+# cuantos_pixeles WINDOW COLOUR AREA: how many pixels of AREA (WxH+X+Y) are of about this colour.
+cuantos_pixeles() {
+  import -silent -window "$1" -crop "$3" +repage png:- |
+    convert png:- -alpha set -fuzz 6% -transparent "$2" -alpha extract -negate -format '%[fx:round(mean*w*h)]' info:
+}
+hay_color() { [ "$(cuantos_pixeles "$1" "$2" "$3")" -gt 3 ]; }
+
+# Tray hosts.
+bandeja_xembed() {
+  arranca trayer trayer --edge "${1:-top}" --align right --widthtype request --heighttype pixel --height 26 \
+    --SetDockType true --SetPartialStrut true --transparent false --monitor "${2:-0}"
+  espera con_bandeja_xembed
+}
+con_bandeja_xembed() { xprop -root _NET_CLIENT_LIST && xdotool search --class trayer; }
+# The icon's window in an XEmbed tray.
+icono_xembed() { xwininfo -root -tree | awk '/"Zorve": \("zorve"/ && !/ (440x560|620x460|1x1)\+/ { print $1; exit }'; }
+hay_icono_xembed() { [ -n "$(icono_xembed)" ]; }
+
+# copiado_es N: Control+C copies the identifier of the sample's session N.
+copiado_es() {
+  xdotool key --clearmodifiers ctrl+c
+  sleep 0.1
+  portapapeles_es "$(printf '%08d-5e55-4000-8000-%012d' "$1" "$1")"
+}
+# The program's menu: a visible window of its own, neither panel nor settings, wider than an icon.
+menu() {
+  local cada ancho alto
+  for cada in $(xdotool search --onlyvisible --class zorve 2>/dev/null); do
+    read -r _ _ ancho alto < <(lugar "$cada")
+    [ "$ancho $alto" = '440 560' ] || [ "$ancho $alto" = '620 460' ] || [ "$ancho" -lt 80 ] || {
+      echo "$cada"
+      return 0
+    }
+  done
+  return 1
+}

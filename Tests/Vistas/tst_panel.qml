@@ -1,0 +1,114 @@
+import QtQuick
+import QtTest
+import Zorve.Vistas
+
+Item {
+    width: 440; height: 560
+
+    ListModel { id: filasDePrueba }
+
+    // Stands for the panel's values.
+    QtObject {
+        id: panel
+        property var filas: filasDePrueba
+        property string consulta: ""
+        property int seleccion: -1
+        property string marcador: ""
+        property string terminal: "xterm"
+        property var banda: []
+        property var leyenda: [{ simbolo: "flechas", tecla: "", palabra: "move" }, { simbolo: "", tecla: "Ctrl+R", palabra: "refresh" }]
+        property string ayudaAjustes: "Settings (Ctrl+,)"
+        property string nombreAjustes: "Settings"
+        property int ajustesPedidos: 0
+        property int filaPedida: -1
+        signal cambio
+        function escribirConsulta(texto) { consulta = texto; cambio() }
+        function clicEnFila(fila) { filaPedida = fila }
+        function clicEnAjustes() { ajustesPedidos++ }
+    }
+
+    Panel { id: vista; anchors.fill: parent }
+
+    TestCase {
+        name: "Panel"
+        when: windowShown
+
+        function llenar(cuantas) {
+            filasDePrueba.clear()
+            for (let i = 0; i < cuantas; i++) {
+                filasDePrueba.append({ titulo: "Sesión " + i, ayuda: "", ruta: "~/r", palabra: "", tiempo: "1h", conteo: "", estado: "dead" })
+            }
+        }
+        function lista() { return findChild(vista, "filas") }
+        function campo() { return findChild(vista, "campo") }
+
+        function init() {
+            panel.banda = []
+            panel.seleccion = -1
+            panel.consulta = ""
+            panel.cambio()
+            llenar(0)
+        }
+
+        function test_elCampoTieneElTeclado() {
+            verify(campo().activeFocus)
+        }
+
+        function test_loEscritoLlegaAlPanel() {
+            keyClick(Qt.Key_A)
+            keyClick(Qt.Key_B)
+            compare(panel.consulta, "ab")
+            panel.escribirConsulta("")
+            compare(campo().text, "")
+        }
+
+        function test_laFilaElegidaEstaSiempreALaVista() {
+            llenar(10000)
+            for (const cual of [9999, 0, 5000, 5001, 4990]) {
+                panel.seleccion = cual
+                const l = lista()
+                tryVerify(() => l.itemAtIndex(cual) !== null)
+                const y = l.itemAtIndex(cual).y - l.contentY
+                verify(y >= -1 && y + 56 <= l.height + 1, cual + " at " + y)
+            }
+        }
+
+        function test_diezMilFilasHacenPocosElementos() {
+            llenar(10000)
+            panel.seleccion = 5000
+            tryVerify(() => lista().itemAtIndex(5000) !== null)
+            verify(lista().contentItem.children.length < 40, lista().contentItem.children.length)
+        }
+
+        function test_sinAvisosLaBandaNoOcupaSitio() {
+            llenar(3)
+            const antes = lista().parent.y
+            panel.banda = [{ texto: "uno", esError: true }]
+            tryVerify(() => lista().parent.y > antes)
+            panel.banda = []
+            tryCompare(lista().parent, "y", antes)
+        }
+
+        function test_unDiluvioDeAvisosCorreDentroDeLaBanda() {
+            const muchos = []
+            for (let i = 0; i < 2000; i++) muchos.push({ texto: "history: line " + i + " is unreadable ".repeat(8), esError: true })
+            panel.banda = muchos
+            llenar(50)
+            tryVerify(() => findChild(vista, "banda").contentHeight > 1000)
+            verify(lista().height > 280, lista().height)
+        }
+
+        function test_unClicEnElEngranajePideLosAjustes() {
+            panel.ajustesPedidos = 0
+            mouseClick(findChild(vista, "engranaje"))
+            compare(panel.ajustesPedidos, 1)
+        }
+
+        function test_unClicEnUnaFilaLaPide() {
+            llenar(5)
+            tryVerify(() => lista().itemAtIndex(2) !== null)
+            mouseClick(lista().itemAtIndex(2))
+            compare(panel.filaPedida, 2)
+        }
+    }
+}

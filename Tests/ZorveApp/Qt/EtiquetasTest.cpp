@@ -1,0 +1,58 @@
+#include "ZorveApp/Qt/Etiquetas.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace zorve {
+namespace {
+
+TEST(Etiquetas, losSaltosDeLineaSonEspacios) {
+  EXPECT_EQ(enUnaLinea("uno\ndos\r\ntres\tcuatro\xE2\x80\xA8"
+                       "cinco"),
+            QStringLiteral("uno dos  tres cuatro cinco"));
+}
+
+TEST(Etiquetas, losCaracteresDeControlSeVen) {
+  EXPECT_EQ(enUnaLinea(std::string_view{"a\x1b[31m\0b", 8}), QStringLiteral("a\uFFFD[31m\uFFFDb"));
+}
+
+TEST(Etiquetas, losMandosDeDireccionSeVen) {
+  EXPECT_EQ(enUnaLinea("a\u202Ee\u2066x\u2069\u200F"), QStringLiteral("a\uFFFDe\uFFFDx\uFFFD\uFFFD"));
+}
+
+TEST(Etiquetas, elArabeYLosEmojiUnidosSeQuedan) {
+  auto const texto = "إصلاح 👩‍🔬 e\u0301";
+  EXPECT_EQ(enUnaLinea(texto), QString::fromUtf8(texto));
+}
+
+TEST(Etiquetas, losBytesQueNoSonUtf8SeVen) {
+  EXPECT_EQ(enUnaLinea("a\xff"
+                       "b"),
+            QStringLiteral("a\uFFFDb"));
+}
+
+TEST(Etiquetas, unTextoEnormeSeCorta) {
+  auto const cortado = enUnaLinea(std::string(5'000'000, 'x'));
+  EXPECT_EQ(cortado.size(), largoDeUnaLinea + 1);
+  EXPECT_TRUE(cortado.endsWith(u'…'));
+}
+
+TEST(Etiquetas, elCorteNoParteUnCaracterDeDosUnidades) {
+  std::string texto = "x";
+  for (int i = 0; i < 2000; ++i) texto += "😀";
+  auto const cortado = enUnaLinea(texto);
+  EXPECT_TRUE(cortado.chopped(1).back().isLowSurrogate());
+}
+
+TEST(Etiquetas, unTextoJustoNoSeCorta) {
+  std::string const justo(static_cast<std::size_t>(largoDeUnaLinea), 'x');
+  EXPECT_EQ(enUnaLinea(justo), QString::fromStdString(justo));
+}
+
+TEST(Etiquetas, enVariasLineasLosSaltosSeQuedan) {
+  EXPECT_EQ(enVariasLineas("uno\ndos\r\x07"), QStringLiteral("uno\ndos \uFFFD"));
+}
+
+}  // namespace
+}  // namespace zorve
