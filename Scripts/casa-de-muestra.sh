@@ -2,6 +2,7 @@
 # Fills a folder as the home directory of somebody who works with the agent: casa-de-muestra.sh DIR PID [KIND]
 # PID is a process that lives as long as the sessions are to count as running. KIND: "lista" (the default),
 # "avisos" (damaged lines too), "vacia" (no session), or a number of sessions.
+# shellcheck disable=SC2088 # "~" is expanded by the script itself
 set -euo pipefail
 casa=$1 pid=$2 clase=${3:-lista}
 agente=$casa/.claude

@@ -1,3 +1,4 @@
+# shellcheck shell=sh disable=SC2016
 # $1 directory, $2 command line, $3 the person's shell, $4 the person's home, which some terminals change,
 # $5 an empty directory whose removal says that the window is open; $4 and $5 may be empty. Runs $2 in $1
 # inside an interactive shell that stays afterwards.
@@ -6,7 +7,7 @@ if [ -n "$4" ]; then
   HOME=$4
   export HOME
 fi
-CDPATH= cd -- "$1" && ZORVE_ORDEN=$2 || ZORVE_ORDEN=
+CDPATH='' cd -- "$1" && ZORVE_ORDEN=$2 || ZORVE_ORDEN=
 ZORVE_SHELL=$3
 export ZORVE_ORDEN
 SHELL=$ZORVE_SHELL

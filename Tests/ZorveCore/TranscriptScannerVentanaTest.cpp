@@ -134,7 +134,7 @@ TEST(TranscriptScannerVentana, enCadaLargoAlrededorDeLaVentanaEsIgualALaLecturaI
 TEST(TranscriptScannerVentana, conUnTituloSobreElBordeDeCadaVentanaEsIgualALaLecturaIngenua) {
   LecturaIngenua ingenua;
   std::string const registro = R"({"cwd":"/p","type":"ai-title","aiTitle":"t"})"
-                        "\n";
+                               "\n";
   for (std::size_t corrimiento = 0; corrimiento <= registro.size() + 60; ++corrimiento) {
     for (auto const borde : {ventana, 700'000 - ventana}) {
       auto contenido = relleno(borde - 60 + corrimiento) + registro;
@@ -148,7 +148,7 @@ TEST(TranscriptScannerVentana, conUnTituloSobreElBordeDeCadaVentanaEsIgualALaLec
 TEST(TranscriptScannerVentana, enTodoLugarDeUnTrozoEsIgualALaLecturaIngenua) {
   LecturaIngenua ingenua;
   std::string const registro = R"({"type":"ai-title","aiTitle":"t","cwd":"/p"})"
-                        "\n";
+                               "\n";
   for (std::size_t lugar = 65'500; lugar < 82'000; lugar += 37) {
     auto const contenido = relleno(lugar, 5'000) + registro + relleno(100'000 - lugar, 5'000);
     ASSERT_EQ(cabeceraDe(contenido), ingenua.cabecera(contenido, contenido.size())) << lugar;

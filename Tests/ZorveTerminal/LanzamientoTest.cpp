@@ -122,7 +122,7 @@ TEST_F(Lanzado, noHeredaDescriptoresNiSenales) {
   auto* const antes = ::signal(SIGPIPE, SIG_IGN);
   auto const bien =
       lanzar(guion("ls /proc/self/fd | wc -l >abiertos; readlink /proc/$$/fd/0 >entrada; "
-                   "sed -nE 's/^Sig(Ign|Blk):..........(.*)/\\1 \\2/p' /proc/$$/status >senales"),
+                   "sed -nE 's/^Sig(Ign|Blk):..........(.*)/\\1 \\2/p' /proc/self/status >senales"),
              mucho);
   ::signal(SIGPIPE, antes);
   ::close(heredable);
