@@ -37,11 +37,11 @@ construye() {
   shift
   export ZORVE_DARWIN_ARCH=$arch
   [ -f "$carpeta/build.ninja" ] || callado "$carpeta.configure.log" cmake -S . -B "$carpeta" -G Ninja \
-    -DCMAKE_TOOLCHAIN_FILE="$PWD/Scripts/darwin/darwin.cmake" -DCMAKE_BUILD_TYPE=Release \
+    -DCMAKE_TOOLCHAIN_FILE="$PWD/Scripts/darwin/darwin.cmake" -DCMAKE_BUILD_TYPE=None \
     -DZORVE_SOLO_PORTABLE=ON -DZORVE_TESTS=ON -DZORVE_FUENTES="$base/fuentes" \
     -DRAPIDJSON_INCLUDE="$base/fuentes/include" -DCLI11_INCLUDE="$base/fuentes/include" \
     -DGTest_DIR="$PWD/Scripts/darwin/gtest"
-  cmake --build "$carpeta" --parallel "$(trabajos)" --target "$@" >"$carpeta.build.log" 2>&1 ||
+  cmake --build "$carpeta" --parallel "$(trabajos)" --target "$@" -- -k 0 >"$carpeta.build.log" 2>&1 ||
     { grep -E 'error|undefined symbol|referenced by' -A5 "$carpeta.build.log" | head -n 60 >&2
       falla "the build for $arch failed; its whole output is in $carpeta.build.log"; }
 }

@@ -32,6 +32,17 @@ for carpeta in any-macos-any any-macos.13-any aarch64-macos.13-none x86_64-macos
   cp -R "$tmp/package/lib/libc/include/$carpeta/." "$nuevo/usr/include/"
 done
 
+# One header that the package lacks, after the manual page openpty(3).
+cat >"$nuevo/usr/include/util.h" <<'H'
+#pragma once
+#include <sys/ioctl.h>
+#include <termios.h>
+#ifdef __cplusplus
+extern "C"
+#endif
+int openpty(int *primary, int *replica, char *name, struct termios *settings, struct winsize *size);
+H
+
 # The C++ headers of the release that Xcode 15 is closest to.
 desempaca "$tmp/dev" libc++-16-dev
 cp -R "$tmp/dev/usr/lib/llvm-16/include/c++/v1" "$nuevo/usr/include/c++/v1"
