@@ -1,5 +1,7 @@
 #import "ZorveApp/AppKit/Delegado.h"
 
+#import <QuartzCore/QuartzCore.h>
+
 #include <optional>
 
 #import "ZorveApp/AppKit/CaraMac.h"
