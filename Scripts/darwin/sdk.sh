@@ -36,11 +36,16 @@ done
 cat >"$nuevo/usr/include/util.h" <<'H'
 #pragma once
 #include <sys/ioctl.h>
+#include <sys/types.h>
 #include <termios.h>
 #ifdef __cplusplus
-extern "C"
+extern "C" {
 #endif
 int openpty(int *primary, int *replica, char *name, struct termios *settings, struct winsize *size);
+pid_t forkpty(int *primary, char *name, struct termios *settings, struct winsize *size);
+#ifdef __cplusplus
+}
+#endif
 H
 
 # The C++ headers of the release that Xcode 15 is closest to.

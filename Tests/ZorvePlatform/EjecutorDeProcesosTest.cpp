@@ -137,7 +137,7 @@ class SenalesCambiadas {
   SenalesCambiadas() {
     antes_ = ::signal(SIGPIPE, SIG_IGN);
     sigset_t todas{};
-    ::sigfillset(&todas);
+    sigfillset(&todas);
     ::pthread_sigmask(SIG_SETMASK, &todas, &mascara_);
   }
   SenalesCambiadas(SenalesCambiadas const&) = delete;
