@@ -129,7 +129,7 @@ TEST(EjecutorDeProcesos, nadaQuedaAbiertoDespues) {
 TEST(EjecutorDeProcesos, nadieQuedaSinEnterrar) {
   ASSERT_EQ(salidaDe("echo a"), "a\n");
   ASSERT_EQ(fallaCon("/no/hay/tal"), ENOENT);
-  EXPECT_EQ(salidaDe("ps --ppid $PPID -o stat= | grep -c Z"), "0\n");
+  EXPECT_EQ(salidaDe("ps -A -o ppid= -o stat= | grep -c \"^ *$PPID  *Z\""), "0\n");
 }
 
 class SenalesCambiadas {
