@@ -8,8 +8,8 @@
 
 namespace zorve {
 
-/// What draws the person's windows: an X server alone, or anything else.
-enum class SesionGrafica : std::uint8_t { otra, x11 };
+/// What draws the person's windows: an X server alone, the compositor sway, or anything else.
+enum class SesionGrafica : std::uint8_t { otra, x11, sway };
 
 /// Everything that tells one Linux terminal from another.
 struct FichaDeTerminal {
@@ -29,8 +29,8 @@ struct FichaDeTerminal {
   bool unSoloTexto = false;
   /// Stands for whichever terminal the system starts under the name x-terminal-emulator.
   bool esCualquierOtra = false;
-  /// Whether a session's window can be found and brought to the front on an X server.
-  bool enfocableEnX = false;
+  /// Where a session's window can be found and brought to the front.
+  std::vector<SesionGrafica> enfocableEn = {};
 };
 
 /// The known Linux terminals, in the order in which they are listed. Any thread.

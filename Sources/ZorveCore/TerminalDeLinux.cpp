@@ -29,7 +29,9 @@ std::string TerminalDeLinux::nombre() const { return ficha_.nombre; }
 
 std::string TerminalDeLinux::nombreDelBundle() const { return ficha_.entradaDeEscritorio; }
 
-bool TerminalDeLinux::puedeEnfocar() const { return ficha_.enfocableEnX && sesion_ == SesionGrafica::x11; }
+bool TerminalDeLinux::puedeEnfocar() const {
+  return std::ranges::find(ficha_.enfocableEn, sesion_) != ficha_.enfocableEn.end();
+}
 
 bool TerminalDeLinux::estaInstalada() const {
   return aplicaciones_.hay(ficha_.identificador) ||

@@ -14,14 +14,24 @@
 #include "Dobles/Pseudoterminal.h"
 #include "Terminales/Escritorio.h"
 #include "ZorveCore/FichaDeTerminal.h"
+#include "ZorveTerminal/Sway.h"
 
 namespace zorve::pruebas {
 namespace {
 
-std::vector<FichaDeTerminal> enfocables() {
+std::vector<FichaDeTerminal> enfocables(SesionGrafica sesion) {
   std::vector<FichaDeTerminal> todas;
-  std::ranges::copy_if(fichasDeLinux(), std::back_inserter(todas), &FichaDeTerminal::enfocableEnX);
+  std::ranges::copy_if(fichasDeLinux(), std::back_inserter(todas), [sesion](auto const& ficha) {
+    return std::ranges::find(ficha.enfocableEn, sesion) != ficha.enfocableEn.end();
+  });
   return todas;
+}
+
+std::string nombreDelCaso(testing::TestParamInfo<FichaDeTerminal> const& caso) {
+  std::string nombre;
+  std::ranges::copy_if(caso.param.identificador, std::back_inserter(nombre),
+                       [](char letra) { return letra != '.' && letra != '-'; });
+  return nombre;
 }
 
 /// Two windows of one terminal, each with a session that writes down the lines it is typed.
@@ -62,12 +72,46 @@ class DosVentanas : public testing::TestWithParam<FichaDeTerminal> {
     EXPECT_EQ(teclasDe(sesiones[1 - cual]), otraAntes);
   }
 
-  Escritorio const escritorio{Escritorio::Pantalla::x11};
+  explicit DosVentanas(Escritorio::Pantalla pantalla = Escritorio::Pantalla::x11) : escritorio{pantalla} {}
+
+  Escritorio const escritorio;
   std::vector<Anotado> sesiones;
 };
 
-INSTANTIATE_TEST_SUITE_P(Linux, DosVentanas, testing::ValuesIn(enfocables()),
-                         [](auto const& caso) { return caso.param.identificador; });
+INSTANTIATE_TEST_SUITE_P(Linux, DosVentanas, testing::ValuesIn(enfocables(SesionGrafica::x11)),
+                         nombreDelCaso);
+
+/// The same under sway, whose own word is taken for what has the keyboard.
+class DosVentanasDeSway : public DosVentanas {
+ protected:
+  DosVentanasDeSway() : DosVentanas{Escritorio::Pantalla::wayland} {}
+
+  /// The identifier of the window that has the keyboard, or the empty text.
+  [[nodiscard]] std::string enfocada() const {
+    auto const arbol = escritorio.correr({"swaymsg", "-r", "-t", "get_tree"}).salida;
+    for (auto const& ventana : ventanasDelArbol(arbol)) {
+      if (ventana.enfocada) return std::to_string(ventana.id);
+    }
+    return {};
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(Linux, DosVentanasDeSway, testing::ValuesIn(enfocables(SesionGrafica::sway)),
+                         nombreDelCaso);
+
+TEST_P(DosVentanasDeSway, cadaSesionTieneSuVentanaTambienDesdeOtroEspacio) {
+  if (!abrirlas()) return;
+  ASSERT_EQ(enfocar(sesiones[0]).codigo, 0);
+  auto const primera = enfocada();
+  ASSERT_EQ(enfocar(sesiones[1]).codigo, 0);
+  EXPECT_NE(primera, enfocada());
+  EXPECT_FALSE(primera.empty());
+  ASSERT_EQ(escritorio.correr({"swaymsg", "workspace", "9"}).codigo, 0);
+  ASSERT_EQ(enfocada(), "");
+  auto const corrida = enfocar(sesiones[0]);
+  EXPECT_EQ(corrida.codigo, 0) << corrida.error;
+  EXPECT_EQ(enfocada(), primera);
+}
 
 TEST_P(DosVentanas, laTeclaLlegaALaSesionEnfocadaDelanteDetrasMinimizadaYEnOtroEscritorio) {
   if (!abrirlas()) return;

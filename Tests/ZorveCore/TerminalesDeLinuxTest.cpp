@@ -92,9 +92,10 @@ TEST_P(CadaTerminalDeLinux, hospedaASusProcesosYANingunOtro) {
 
 TEST(TerminalesDeLinux, soloEnfocaLaQuePuedeEnSuSesionGrafica) {
   SoloHay const ninguna{{}};
-  for (auto const sesion : {SesionGrafica::otra, SesionGrafica::x11}) {
+  for (auto const sesion : {SesionGrafica::otra, SesionGrafica::x11, SesionGrafica::sway}) {
     for (auto const& uno : terminalesDeLinux(ninguna, "/z", sesion)) {
-      bool const puede = sesion == SesionGrafica::x11 && fichaDeLinux(uno->identificador())->enfocableEnX;
+      auto const& donde = fichaDeLinux(uno->identificador())->enfocableEn;
+      bool const puede = std::ranges::find(donde, sesion) != donde.end();
       EXPECT_EQ(uno->puedeEnfocar(), puede) << uno->identificador();
       PlanDeApertura const orden =
           std::vector{ComandoDeApertura{"/z", {"focus", uno->identificador(), "pts/3"}}};
@@ -102,7 +103,8 @@ TEST(TerminalesDeLinux, soloEnfocaLaQuePuedeEnSuSesionGrafica) {
       EXPECT_EQ(uno->planParaEnfocar("pts/3"), uno->planParaEnfocar("/dev/pts/3"));
     }
   }
-  EXPECT_TRUE(fichaDeLinux("xterm")->enfocableEnX);
+  EXPECT_EQ(fichaDeLinux("xterm")->enfocableEn, std::vector{SesionGrafica::x11});
+  EXPECT_EQ(fichaDeLinux("foot")->enfocableEn, std::vector{SesionGrafica::sway});
 }
 
 TEST(TerminalesDeLinux, ningunProcesoTieneDosDuenos) {

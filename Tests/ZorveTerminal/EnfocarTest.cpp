@@ -29,12 +29,24 @@ TEST(VentanaDe, unaPropiaAjenaODesaparecidaNoCuenta) {
 }
 
 TEST(VentanaDe, deVariasDelMasCercanoNingunaSeAdivina) {
-  EXPECT_EQ(ventanaDe(ventanas, ascendencia_, 0), std::nullopt);
+  EXPECT_EQ(ventanaDe(ventanas, ascendencia_, 0), std::unexpected{SinVentana::varias});
 }
 
 TEST(VentanaDe, sinVentanasNoHayNinguna) {
-  EXPECT_EQ(ventanaDe({}, ascendencia_, 3), std::nullopt);
-  EXPECT_EQ(ventanaDe(ventanas, {}, 3), std::nullopt);
+  EXPECT_EQ(ventanaDe({}, ascendencia_, 3), std::unexpected{SinVentana::ninguna});
+  EXPECT_EQ(ventanaDe(ventanas, {}, 3), std::unexpected{SinVentana::ninguna});
+}
+
+TEST(VentanasDelArbol, sonLosNodosConProcesoEnElOrdenDelArbol) {
+  EXPECT_EQ(ventanasDelArbol(R"({"id":1,"nodes":[{"id":2,"pid":20,"focused":true,"nodes":[]},{"id":3,"nodes":[
+      {"id":4,"pid":40}],"floating_nodes":[{"id":5,"pid":50,"focused":false}]}]})"),
+            (std::vector<VentanaDeSway>{{2, 20, true}, {4, 40, false}, {5, 50, false}}));
+}
+
+TEST(VentanasDelArbol, loQueNoSeEntiendeNoTieneVentanas) {
+  for (auto const* const texto : {"", "{", "[]", "7", "{\"id\":\"x\",\"pid\":1}", "{\"nodes\":{}}"}) {
+    EXPECT_TRUE(ventanasDelArbol(texto).empty()) << texto;
+  }
 }
 
 TEST(LeerStat, elNombreDelProcesoPuedeSerCualquiera) {

@@ -14,6 +14,7 @@ bool tieneValor(char const* nombre) {
 }  // namespace
 
 SesionGrafica sesionGraficaDelProceso() {
+  if (tieneValor("SWAYSOCK") && tieneValor("WAYLAND_DISPLAY")) return SesionGrafica::sway;
   return tieneValor("DISPLAY") && !tieneValor("WAYLAND_DISPLAY") ? SesionGrafica::x11 : SesionGrafica::otra;
 }
 

@@ -1,0 +1,120 @@
+#include "ZorveTerminal/Sway.h"
+
+#include <rapidjson/document.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <span>
+#include <utility>
+
+namespace zorve {
+
+namespace {
+
+constexpr std::string_view magia = "i3-ipc";
+constexpr std::size_t largoDeCabecera = 14;
+constexpr std::uint32_t maximoDeRespuesta = 64U << 20U;
+constexpr std::uint32_t correrOrden = 0;
+constexpr std::uint32_t darArbol = 4;
+
+using Nodo = rapidjson::Value;
+
+template <class T>
+T campo(Nodo const& nodo, char const* clave, T otro) {
+  auto const hallado = nodo.FindMember(clave);
+  return hallado != nodo.MemberEnd() && hallado->value.Is<T>() ? hallado->value.Get<T>() : otro;
+}
+
+void recoger(Nodo const& raiz, std::vector<VentanaDeSway>& ventanas) {
+  std::vector<Nodo const*> pendientes{&raiz};
+  while (!pendientes.empty()) {
+    Nodo const& nodo = *pendientes.back();
+    pendientes.pop_back();
+    if (!nodo.IsObject()) continue;
+    auto const id = campo<std::int64_t>(nodo, "id", 0);
+    auto const pid = campo<int>(nodo, "pid", 0);
+    if (id != 0 && pid > 0) ventanas.push_back({id, pid, campo<bool>(nodo, "focused", false)});
+    for (auto const* const clave : {"floating_nodes", "nodes"}) {
+      auto const hijos = nodo.FindMember(clave);
+      if (hijos == nodo.MemberEnd() || !hijos->value.IsArray()) continue;
+      for (auto i = hijos->value.Size(); i > 0; --i) pendientes.push_back(&hijos->value[i - 1]);
+    }
+  }
+}
+
+bool escribirTodo(int enchufe, std::string_view texto) {
+  while (!texto.empty()) {
+    auto const n = ::send(enchufe, texto.data(), texto.size(), MSG_NOSIGNAL);
+    if (n < 0 && errno == EINTR) continue;
+    if (n <= 0) return false;
+    texto.remove_prefix(static_cast<std::size_t>(n));
+  }
+  return true;
+}
+
+bool leerTodo(int enchufe, std::span<char> destino) {
+  while (!destino.empty()) {
+    auto const n = ::read(enchufe, destino.data(), destino.size());
+    if (n < 0 && errno == EINTR) continue;
+    if (n <= 0) return false;
+    destino = destino.subspan(static_cast<std::size_t>(n));
+  }
+  return true;
+}
+
+Descriptor conectar(char const* ruta) {
+  sockaddr_un direccion{};
+  direccion.sun_family = AF_UNIX;
+  if (ruta == nullptr || std::strlen(ruta) >= sizeof direccion.sun_path) return {};
+  std::strncpy(direccion.sun_path, ruta, sizeof direccion.sun_path - 1);
+  Descriptor enchufe{::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)};
+  auto const* const generica = reinterpret_cast<sockaddr const*>(&direccion);
+  return ::connect(enchufe.numero(), generica, sizeof direccion) == 0 ? std::move(enchufe) : Descriptor{};
+}
+
+}  // namespace
+
+std::vector<VentanaDeSway> ventanasDelArbol(std::string_view arbol) {
+  std::vector<VentanaDeSway> ventanas;
+  rapidjson::Document documento;
+  documento.Parse<rapidjson::kParseIterativeFlag>(arbol.data(), arbol.size());
+  if (!documento.HasParseError()) recoger(documento, ventanas);
+  return ventanas;
+}
+
+Sway::Sway() : enchufe_{conectar(std::getenv("SWAYSOCK"))} {}  // NOLINT(concurrency-mt-unsafe): one thread
+
+bool Sway::abierta() const { return static_cast<bool>(enchufe_); }
+
+std::vector<VentanaDeSway> Sway::ventanas() const {
+  return ventanasDelArbol(preguntar(darArbol, "").value_or(""));
+}
+
+bool Sway::activar(std::int64_t id) const {
+  if (!preguntar(correrOrden, "[con_id=" + std::to_string(id) + "] focus")) return false;
+  return std::ranges::any_of(ventanas(), [id](auto const& una) { return una.id == id && una.enfocada; });
+}
+
+std::optional<std::string> Sway::preguntar(std::uint32_t tipo, std::string_view texto) const {
+  auto const largo = static_cast<std::uint32_t>(texto.size());
+  std::string mensaje{magia};
+  mensaje.append(reinterpret_cast<char const*>(&largo), sizeof largo);
+  mensaje.append(reinterpret_cast<char const*>(&tipo), sizeof tipo);
+  mensaje += texto;
+  std::array<char, largoDeCabecera> cabecera{};
+  if (!escribirTodo(enchufe_.numero(), mensaje) || !leerTodo(enchufe_.numero(), cabecera))
+    return std::nullopt;
+  std::uint32_t cuantos = 0;
+  std::memcpy(&cuantos, &cabecera[magia.size()], sizeof cuantos);
+  if (cuantos > maximoDeRespuesta) return std::nullopt;
+  std::string respuesta(cuantos, '\0');
+  return leerTodo(enchufe_.numero(), respuesta) ? std::optional{std::move(respuesta)} : std::nullopt;
+}
+
+}  // namespace zorve
