@@ -1,6 +1,6 @@
 #include "ZorveTerminal/Sway.h"
 
-#include <rapidjson/document.h>
+#include <simdjson.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -23,29 +23,39 @@ constexpr std::uint32_t maximoDeRespuesta = 64U << 20U;
 constexpr std::uint32_t correrOrden = 0;
 constexpr std::uint32_t darArbol = 4;
 
-using Nodo = rapidjson::Value;
+using Nodo = simdjson::dom::element;
 
-template <class T>
-T campo(Nodo const& nodo, char const* clave, T otro) {
-  auto const hallado = nodo.FindMember(clave);
-  return hallado != nodo.MemberEnd() && hallado->value.Is<T>() ? hallado->value.Get<T>() : otro;
+std::int64_t numero(Nodo const& nodo, std::string_view clave) {
+  std::int64_t valor = 0;
+  return nodo[clave].get(valor) == simdjson::SUCCESS ? valor : 0;
 }
 
-void recoger(Nodo const& raiz, std::vector<VentanaDeSway>& ventanas) {
-  std::vector<Nodo const*> pendientes{&raiz};
+bool cierto(Nodo const& nodo, std::string_view clave) {
+  bool valor = false;
+  return nodo[clave].get(valor) == simdjson::SUCCESS && valor;
+}
+
+void agregarHijos(Nodo const& nodo, std::string_view clave, std::vector<Nodo>& pendientes) {
+  simdjson::dom::array hijos;
+  if (nodo[clave].get(hijos) != simdjson::SUCCESS) return;
+  auto const desde = static_cast<std::ptrdiff_t>(pendientes.size());
+  for (auto const hijo : hijos) pendientes.push_back(hijo);
+  std::reverse(pendientes.begin() + desde, pendientes.end());
+}
+
+std::vector<VentanaDeSway> recoger(Nodo const& raiz) {
+  std::vector<VentanaDeSway> ventanas;
+  std::vector<Nodo> pendientes{raiz};
   while (!pendientes.empty()) {
-    Nodo const& nodo = *pendientes.back();
+    Nodo const nodo = pendientes.back();
     pendientes.pop_back();
-    if (!nodo.IsObject()) continue;
-    auto const id = campo<std::int64_t>(nodo, "id", 0);
-    auto const pid = campo<int>(nodo, "pid", 0);
-    if (id != 0 && pid > 0) ventanas.push_back({id, pid, campo<bool>(nodo, "focused", false)});
-    for (auto const* const clave : {"floating_nodes", "nodes"}) {
-      auto const hijos = nodo.FindMember(clave);
-      if (hijos == nodo.MemberEnd() || !hijos->value.IsArray()) continue;
-      for (auto i = hijos->value.Size(); i > 0; --i) pendientes.push_back(&hijos->value[i - 1]);
-    }
+    auto const id = numero(nodo, "id");
+    auto const pid = numero(nodo, "pid");
+    if (id != 0 && pid > 0) ventanas.push_back({id, static_cast<pid_t>(pid), cierto(nodo, "focused")});
+    agregarHijos(nodo, "floating_nodes", pendientes);
+    agregarHijos(nodo, "nodes", pendientes);
   }
+  return ventanas;
 }
 
 bool escribirTodo(int enchufe, std::string_view texto) {
@@ -81,11 +91,10 @@ Descriptor conectar(char const* ruta) {
 }  // namespace
 
 std::vector<VentanaDeSway> ventanasDelArbol(std::string_view arbol) {
-  std::vector<VentanaDeSway> ventanas;
-  rapidjson::Document documento;
-  documento.Parse<rapidjson::kParseIterativeFlag>(arbol.data(), arbol.size());
-  if (!documento.HasParseError()) recoger(documento, ventanas);
-  return ventanas;
+  simdjson::dom::parser lector;
+  simdjson::dom::element raiz;
+  if (lector.parse(arbol.data(), arbol.size()).get(raiz) != simdjson::SUCCESS) return {};
+  return recoger(raiz);
 }
 
 Sway::Sway() : enchufe_{conectar(std::getenv("SWAYSOCK"))} {}  // NOLINT(concurrency-mt-unsafe): one thread

@@ -124,7 +124,8 @@ void Escritorio::programa(std::string const& nombre, std::string const& guion) c
 
 std::vector<std::string> Escritorio::entorno() const {
   std::vector<std::string> todo;
-  for (auto const& [nombre, valor] : variables) todo.push_back(nombre + "=" + valor);
+  todo.reserve(variables.size());
+  for (auto const& [nombre, valor] : variables) todo.emplace_back(nombre).append("=").append(valor);
   return todo;
 }
 
