@@ -85,6 +85,7 @@ Descriptor conectar(char const* ruta) {
   std::strncpy(direccion.sun_path, ruta, sizeof direccion.sun_path - 1);
   Descriptor enchufe{::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)};
   auto const* const generica = reinterpret_cast<sockaddr const*>(&direccion);
+  if (!enchufe) return {};
   return ::connect(enchufe.numero(), generica, sizeof direccion) == 0 ? std::move(enchufe) : Descriptor{};
 }
 
