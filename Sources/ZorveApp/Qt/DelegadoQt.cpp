@@ -32,14 +32,11 @@ DelegadoQt::DelegadoQt(ColaboradoresDelDelegado con)
       item_{*this, con.estado, con.idioma, con.despachador, PrimerArranque{con.banderas}},
       barra_{{[this](ClicEnLaBarra clic) { alClic(clic); },
               [this](EntradaDelMenu::Clase cual) { item_.elegir(cual); }, [this] { item_.reabrir(); }}},
-      puente_{con.modelo, con.panel, con.idioma},
-      ventana_{*escritorio_, [this](Pulsacion const& tecla) { return con_.panel.tecla(tecla); }},
-      ventanaDeAjustes_{con.ajustes, con.modeloDeAjustes, con.idioma} {
+      puente_{con.modelo, con.panel, con.idioma} {
   con_.panel.acciones = {[this] { cerrarPanel(); }, [this] { item_.salir(); }};
-  con_.ajustes.acciones = {[this] { ventanaDeAjustes_.hide(); }, [this] { item_.salir(); }};
+  con_.ajustes.acciones = {[this] { ventanaDeAjustes_->hide(); }, [this] { item_.salir(); }};
   minutero_.setInterval(pasoDelReloj);
   connect(&minutero_, &QTimer::timeout, &puente_, &PuenteDelPanel::actualizarTiempos);
-  connect(&ventana_, &VentanaDelPanel::escondida, &minutero_, &QTimer::stop);
   connect(&gustos_, &GustosDelEscritorio::cambio, this, &DelegadoQt::atenderGustos);
   idioma_ = con_.idioma.idioma().observar([this] { escribirMenu(); });
   escribirMenu();
@@ -48,16 +45,23 @@ DelegadoQt::DelegadoQt(ColaboradoresDelDelegado con)
 void DelegadoQt::arrancar() {
   barra_.aparecer();
   item_.mostrarElPanelSiEsLaPrimeraVez();
-  QTimer::singleShot(0, this, &DelegadoQt::prepararPanel);
+  QTimer::singleShot(0, this, [this] {
+    ventana();
+    gustos_.preguntar();
+  });
   QTimer::singleShot(esperaDeLaBandeja, this, &DelegadoQt::avisarSiNoHayBandeja);
 }
 
-void DelegadoQt::prepararPanel() {
-  ventana_.rootContext()->setContextProperty(QStringLiteral("panel"), &puente_);
-  ventana_.rootContext()->setContextProperty(QStringLiteral("estilo"),
-                                             estiloParaQml(gustos_.conMovimiento()));
-  ventana_.preparar();
-  gustos_.preguntar();
+VentanaDelPanel& DelegadoQt::ventana() {
+  if (ventana_) return *ventana_;
+  ventana_ = std::make_unique<VentanaDelPanel>(
+      *escritorio_, [this](Pulsacion const& tecla) { return con_.panel.tecla(tecla); });
+  connect(ventana_.get(), &VentanaDelPanel::escondida, &minutero_, &QTimer::stop);
+  ventana_->rootContext()->setContextProperty(QStringLiteral("panel"), &puente_);
+  ventana_->rootContext()->setContextProperty(QStringLiteral("estilo"),
+                                              estiloParaQml(gustos_.conMovimiento()));
+  ventana_->preparar();
+  return *ventana_;
 }
 
 void DelegadoQt::avisarSiNoHayBandeja() {
@@ -65,7 +69,7 @@ void DelegadoQt::avisarSiNoHayBandeja() {
   con_.banderas.marcar(banderaSinBandeja);
   puente_.escribirAvisoPropio(avisoSinBandeja(*con_.idioma.idioma()));
   connect(
-      &ventana_, &VentanaDelPanel::escondida, &puente_, [this] { puente_.escribirAvisoPropio({}); },
+      &ventana(), &VentanaDelPanel::escondida, &puente_, [this] { puente_.escribirAvisoPropio({}); },
       Qt::SingleShotConnection);
 }
 
@@ -73,36 +77,42 @@ void DelegadoQt::escribirMenu() { barra_.ponerMenu(menuDelItem(Textos{*con_.idio
 
 void DelegadoQt::atenderGustos() {
   barra_.escribirBarraClara(gustos_.claro());
-  ventana_.exigirOpaco(gustos_.altoContraste());
-  ventana_.rootContext()->setContextProperty(QStringLiteral("estilo"),
-                                             estiloParaQml(gustos_.conMovimiento()));
+  ventana().exigirOpaco(gustos_.altoContraste());
+  ventana().rootContext()->setContextProperty(QStringLiteral("estilo"),
+                                              estiloParaQml(gustos_.conMovimiento()));
 }
 
 void DelegadoQt::reabrir() { item_.reabrir(); }
 
 void DelegadoQt::alClic(ClicEnLaBarra clic) {
-  bool const quisoCerrar = !clic.derecho && !clic.conControl && ventana_.recienCerrada();
+  bool const quisoCerrar = !clic.derecho && !clic.conControl && ventana_ && ventana_->recienCerrada();
   if (!quisoCerrar) item_.clic(clic);
 }
 
-bool DelegadoQt::panelVisible() const { return ventana_.isVisible(); }
+bool DelegadoQt::panelVisible() const { return ventana_ && ventana_->isVisible(); }
 
 void DelegadoQt::mostrarPanel() {
-  if (ventana_.status() == QQuickView::Null) prepararPanel();
-  ventana_.mostrarEn(barra_.ancla());
+  ventana().mostrarEn(barra_.ancla());
   puente_.actualizarTiempos();
   minutero_.start();
   con_.panel.aparecer();
 }
 
-void DelegadoQt::cerrarPanel() { ventana_.esconder(); }
+void DelegadoQt::cerrarPanel() {
+  if (ventana_) ventana_->esconder();
+}
 
 void DelegadoQt::mostrarMenu(std::array<EntradaDelMenu, 3> const& entradas) {
   barra_.ponerMenu(entradas);
   barra_.abrirMenu();
 }
 
-void DelegadoQt::mostrarAjustes() { ventanaDeAjustes_.mostrar(); }
+void DelegadoQt::mostrarAjustes() {
+  if (!ventanaDeAjustes_) {
+    ventanaDeAjustes_ = std::make_unique<VentanaDeAjustes>(con_.ajustes, con_.modeloDeAjustes, con_.idioma);
+  }
+  ventanaDeAjustes_->mostrar();
+}
 
 void DelegadoQt::salir() { QCoreApplication::quit(); }
 

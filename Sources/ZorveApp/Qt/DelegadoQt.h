@@ -50,7 +50,8 @@ class DelegadoQt final : public QObject, public CaraDelItem {
 
  private:
   void alClic(ClicEnLaBarra clic);
-  void prepararPanel();
+  /// The panel's window, built and prepared by the first who asks.
+  VentanaDelPanel& ventana();
   void avisarSiNoHayBandeja();
   void escribirMenu();
   void atenderGustos();
@@ -61,8 +62,8 @@ class DelegadoQt final : public QObject, public CaraDelItem {
   ItemDeEstado item_;
   ElementoDeBarra barra_;
   PuenteDelPanel puente_;
-  VentanaDelPanel ventana_;
-  VentanaDeAjustes ventanaDeAjustes_;
+  std::unique_ptr<VentanaDelPanel> ventana_;
+  std::unique_ptr<VentanaDeAjustes> ventanaDeAjustes_;
   QTimer minutero_;
   Suscripcion idioma_;
 };
