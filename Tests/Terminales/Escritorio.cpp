@@ -111,8 +111,13 @@ Escritorio::Escritorio(Pantalla pantalla, std::string const& gestorDeVentanas)
     }
   }
   if (pantalla == Pantalla::ninguna) return;
-  if (pantalla == Pantalla::x11) empezarX(gestorDeVentanas);
-  if (pantalla == Pantalla::wayland) empezarSway();
+  try {
+    if (pantalla == Pantalla::x11) empezarX(gestorDeVentanas);
+    if (pantalla == Pantalla::wayland) empezarSway();
+  } catch (...) {
+    terminarTodo();
+    throw;
+  }
 }
 
 Escritorio::~Escritorio() { terminarTodo(); }
@@ -184,12 +189,14 @@ void Escritorio::empezarX(std::string const& gestorDeVentanas) {
   numero.pop_back();
   variables["DISPLAY"] = ":" + numero;
   empezarBus();
-  empezar({gestorDeVentanas});
-  if (!esperarA([&] {
-        return correr({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}).salida.contains("window id");
-      })) {
-    throw std::runtime_error("no window manager: " + gestorDeVentanas);
+  auto const manda = [this] {
+    return correr({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}).salida.contains("window id");
+  };
+  for (int intento = 0; intento < 3; ++intento) {
+    empezar({gestorDeVentanas});
+    if (esperarA(manda, 10s)) return;
   }
+  throw std::runtime_error("no window manager: " + gestorDeVentanas);
 }
 
 void Escritorio::empezarSway() {
