@@ -25,7 +25,7 @@ namespace zorve::medir {
 namespace {
 
 constexpr int ancho = 1280;
-constexpr int plazoMs = 20'000;
+constexpr int plazoMs = 60'000;
 constexpr std::uint32_t cifraSiete = 0x37;
 constexpr std::uint32_t retroceso = 0xFF08;
 /// Where the pointer is when the icon is clicked, and a part of the list of the panel that opens there.

@@ -46,6 +46,7 @@ Item {
             panel.banda = []
             panel.seleccion = -1
             panel.consulta = ""
+            panel.filaPedida = -1
             panel.cambio()
             llenar(0)
         }
@@ -100,6 +101,7 @@ Item {
 
         function test_unClicEnElEngranajePideLosAjustes() {
             panel.ajustesPedidos = 0
+            waitForRendering(vista)
             mouseClick(findChild(vista, "engranaje"))
             compare(panel.ajustesPedidos, 1)
         }
@@ -107,8 +109,9 @@ Item {
         function test_unClicEnUnaFilaLaPide() {
             llenar(5)
             tryVerify(() => lista().itemAtIndex(2) !== null)
-            mouseClick(lista().itemAtIndex(2))
-            compare(panel.filaPedida, 2)
+            waitForRendering(vista)
+            const fila = lista().itemAtIndex(2)
+            tryVerify(() => { mouseClick(fila); return panel.filaPedida === 2 })
         }
     }
 }
