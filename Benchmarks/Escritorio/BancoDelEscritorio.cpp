@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -96,13 +97,13 @@ double memoria(qint64 pid, std::vector<std::string> const& nombres) {
 double residente(qint64 pid) { return memoria(pid, {"Rss"}); }
 double privada(qint64 pid) { return memoria(pid, {"Private_Clean", "Private_Dirty"}); }
 
-/// How often the threads of a process have gone to sleep of themselves.
-long despertares(qint64 pid) {
-  long todos = 0;
+/// How often each thread of a process has gone to sleep of itself, by the thread's folder.
+std::map<std::string, long> despertares(qint64 pid) {
+  std::map<std::string, long> todos;
   for (auto const& hilo : std::filesystem::directory_iterator{"/proc/" + std::to_string(pid) + "/task"}) {
     std::ifstream archivo{hilo.path() / "status"};
     for (std::string linea; std::getline(archivo, linea);) {
-      if (linea.starts_with("voluntary_ctxt_switches:")) todos += std::stol(linea.substr(24));
+      if (linea.starts_with("voluntary_ctxt_switches:")) todos[hilo.path()] = std::stol(linea.substr(24));
     }
   }
   return todos;
@@ -210,8 +211,12 @@ class Banco {
     dejarPasar(3000);
     auto const antes = despertares(zorve_.processId());
     dejarPasar(espera);
-    tabla::tope("wake-ups in 30 s of rest", static_cast<double>(despertares(zorve_.processId()) - antes), "",
-                0);
+    long nuevos = 0;
+    for (auto const& [hilo, veces] : despertares(zorve_.processId())) {
+      auto const visto = antes.find(hilo);
+      nuevos += veces - (visto == antes.end() ? 0 : visto->second);
+    }
+    tabla::tope("wake-ups in 30 s of rest", static_cast<double>(nuevos), "", 0);
   }
 
   QTemporaryDir carpeta_;

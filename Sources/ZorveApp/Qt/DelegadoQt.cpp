@@ -1,5 +1,7 @@
 #include "ZorveApp/Qt/DelegadoQt.h"
 
+#include <malloc.h>
+
 #include <QCoreApplication>
 #include <QQmlContext>
 #include <chrono>
@@ -13,7 +15,15 @@ namespace {
 
 constexpr std::chrono::seconds pasoDelReloj{20};
 constexpr std::chrono::seconds esperaDeLaBandeja{3};
+constexpr std::chrono::milliseconds esperaDeReposo{500};
 constexpr auto banderaSinBandeja = "zorve.avisoDeBandejaMostrado";
+
+/// Gives the system what the last loads have left free.
+void devolverMemoria() {
+#ifdef __GLIBC__
+  malloc_trim(0);
+#endif
+}
 
 QString avisoSinBandeja(Idioma idioma) {
   return idioma == Idioma::es
@@ -36,6 +46,9 @@ DelegadoQt::DelegadoQt(ColaboradoresDelDelegado con)
   con_.panel.acciones = {[this] { cerrarPanel(); }, [this] { item_.salir(); }};
   con_.ajustes.acciones = {[this] { ventanaDeAjustes_->hide(); }, [this] { item_.salir(); }};
   minutero_.setInterval(pasoDelReloj);
+  reposo_.setInterval(esperaDeReposo);
+  reposo_.setSingleShot(true);
+  connect(&reposo_, &QTimer::timeout, this, devolverMemoria);
   connect(&minutero_, &QTimer::timeout, &puente_, &PuenteDelPanel::actualizarTiempos);
   connect(&gustos_, &GustosDelEscritorio::cambio, this, &DelegadoQt::atenderGustos);
   idioma_ = con_.idioma.idioma().observar([this] { escribirMenu(); });
@@ -57,6 +70,7 @@ VentanaDelPanel& DelegadoQt::ventana() {
   ventana_ = std::make_unique<VentanaDelPanel>(
       *escritorio_, [this](Pulsacion const& tecla) { return con_.panel.tecla(tecla); });
   connect(ventana_.get(), &VentanaDelPanel::escondida, &minutero_, &QTimer::stop);
+  connect(ventana_.get(), &VentanaDelPanel::escondida, &reposo_, qOverload<>(&QTimer::start));
   ventana_->rootContext()->setContextProperty(QStringLiteral("panel"), &puente_);
   ventana_->rootContext()->setContextProperty(QStringLiteral("estilo"),
                                               estiloParaQml(gustos_.conMovimiento()));

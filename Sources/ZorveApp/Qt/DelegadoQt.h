@@ -65,6 +65,7 @@ class DelegadoQt final : public QObject, public CaraDelItem {
   std::unique_ptr<VentanaDelPanel> ventana_;
   std::unique_ptr<VentanaDeAjustes> ventanaDeAjustes_;
   QTimer minutero_;
+  QTimer reposo_;
   Suscripcion idioma_;
 };
 

@@ -13,7 +13,7 @@ namespace zorve {
 
 namespace {
 
-constexpr std::size_t topeDeEntrada = 64 * 1024;
+constexpr std::size_t topeDeEntrada = 64UZ * 1024;
 
 std::string contenido(std::string const& ejecutable) {
   return "[Desktop Entry]\nType=Application\nName=Zorve\nExec=" + argumentoDeExec(ejecutable) +
