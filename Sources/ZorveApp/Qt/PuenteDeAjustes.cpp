@@ -30,17 +30,14 @@ QVariantMap aMapa(Grupo const& grupo) {
 PuenteDeAjustes::PuenteDeAjustes(VistaAjustes& vista, ModeloDeAjustes& modelo,
                                  PreferenciaDeIdioma const& idioma, QObject* padre)
     : QObject{padre}, vista_{vista}, modelo_{modelo} {
+  porAvisar_.setSingleShot(true);
+  connect(&porAvisar_, &QTimer::timeout, this, &PuenteDeAjustes::cambio);
   suscripciones_ = modelo_.observar([this] { anotarCambio(); });
   suscripciones_.push_back(idioma.idioma().observar([this] { anotarCambio(); }));
 }
 
 void PuenteDeAjustes::anotarCambio() {
-  if (std::exchange(pendiente_, true)) return;
-  auto const avisar = [this] {
-    pendiente_ = false;
-    Q_EMIT cambio();
-  };
-  QMetaObject::invokeMethod(this, avisar, Qt::QueuedConnection);
+  if (!porAvisar_.isActive()) porAvisar_.start();
 }
 
 QVariantList PuenteDeAjustes::secciones() const {

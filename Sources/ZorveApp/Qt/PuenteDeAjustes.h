@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 #include <QVariantList>
 #include <vector>
 
@@ -48,7 +49,7 @@ class PuenteDeAjustes final : public QObject {
 
   VistaAjustes& vista_;
   ModeloDeAjustes& modelo_;
-  bool pendiente_ = false;
+  QTimer porAvisar_;
   std::vector<Suscripcion> suscripciones_;
 };
 

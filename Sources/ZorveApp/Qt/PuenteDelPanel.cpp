@@ -32,6 +32,8 @@ QVariantMap lineaDeBanda(QString const& texto, bool esError) {
 PuenteDelPanel::PuenteDelPanel(ModeloDeVista& modelo, PanelView& panel, PreferenciaDeIdioma const& idioma,
                                QObject* padre)
     : QObject{padre}, modelo_{modelo}, panel_{panel}, filas_{panel} {
+  porAvisar_.setSingleShot(true);
+  connect(&porAvisar_, &QTimer::timeout, this, &PuenteDelPanel::actualizar);
   suscripciones_ = modelo_.observar([this] { anotarCambio(); });
   suscripciones_.push_back(idioma.idioma().observar([this] {
     anotarCambio();
@@ -41,12 +43,11 @@ PuenteDelPanel::PuenteDelPanel(ModeloDeVista& modelo, PanelView& panel, Preferen
 }
 
 void PuenteDelPanel::anotarCambio() {
-  if (std::exchange(pendiente_, true)) return;
-  QMetaObject::invokeMethod(this, &PuenteDelPanel::actualizar, Qt::QueuedConnection);
+  if (!porAvisar_.isActive()) porAvisar_.start();
 }
 
 void PuenteDelPanel::actualizar() {
-  pendiente_ = false;
+  porAvisar_.stop();
   filas_.actualizar();
   auto nueva = nuevaBanda();
   if (nueva != banda_) {

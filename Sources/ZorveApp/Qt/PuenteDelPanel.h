@@ -3,6 +3,7 @@
 #include <QAbstractListModel>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 #include <QVariantList>
 #include <vector>
 
@@ -68,7 +69,7 @@ class PuenteDelPanel final : public QObject {
   FilasQt filas_;
   QVariantList banda_;
   QString avisoPropio_;
-  bool pendiente_ = false;
+  QTimer porAvisar_;
   std::vector<Suscripcion> suscripciones_;
 };
 
