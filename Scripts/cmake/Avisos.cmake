@@ -11,7 +11,7 @@ if(ZORVE_SANITIZE)
 endif()
 # Sanitized objects confuse g++'s flow analysis: these warn there about code that is right.
 if(ZORVE_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  target_compile_options(zorve_opciones INTERFACE -Wno-maybe-uninitialized -Wno-array-bounds -Wno-tsan)
+  target_compile_options(zorve_opciones INTERFACE -Wno-maybe-uninitialized -Wno-array-bounds -Wno-stringop-overflow -Wno-tsan)
 endif()
 # g++ 12 takes short string joins for overlapping copies when it optimises (its bug 105651).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13

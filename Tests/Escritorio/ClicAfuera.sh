@@ -8,12 +8,13 @@ arranca victima xterm -T victima -geometry 40x10+800+500 -e cat
 victima() { xdotool search --onlyvisible --name '^victima$'; }
 espera victima
 v=$(victima | head -n 1)
-xdotool windowactivate --sync "$v"
+tiene_victima() { [ "$(xdotool getwindowfocus)" = "$v" ] || [ "$(xdotool getactivewindow)" = "$v" ]; }
+activa_victima() { xdotool windowactivate "$v" && tiene_victima; }
+espera activa_victima
 zorve
 muestra
 xdotool key Escape
 espera no panel_visible
-tiene_victima() { [ "$(xdotool getwindowfocus)" = "$v" ] || [ "$(xdotool getactivewindow)" = "$v" ]; }
 espera tiene_victima
 xdotool type "despues"
 muestra
