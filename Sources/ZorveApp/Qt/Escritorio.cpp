@@ -19,6 +19,7 @@ class EscritorioSencillo final : public Escritorio {
   void preparar(QWindow& ventana) override { ventana.setFlags(Qt::Window | Qt::FramelessWindowHint); }
   void tomarElTeclado(QWindow& ventana) override { ventana.requestActivate(); }
   void devolverElTeclado(QWindow& /*ventana*/) override {}
+  void soltarElTeclado(QWindow& /*ventana*/) override {}
   [[nodiscard]] bool tieneElTeclado(QWindow const& ventana) const override { return ventana.isActive(); }
   void vigilarPulsaciones(QWindow& /*ventana*/, std::function<void(QPoint)> /*alPulsarFuera*/) override {}
 };

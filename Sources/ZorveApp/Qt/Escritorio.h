@@ -29,6 +29,9 @@ class Escritorio {
   virtual void tomarElTeclado(QWindow& ventana) = 0;
   /// The keyboard back to whoever had it before, if `ventana` has it still. Before hiding it.
   virtual void devolverElTeclado(QWindow& ventana) = 0;
+  /// The same after a press elsewhere: whoever was pressed comes first, and the one before only if nobody
+  /// takes the keyboard. Before hiding `ventana`.
+  virtual void soltarElTeclado(QWindow& ventana) = 0;
   [[nodiscard]] virtual bool tieneElTeclado(QWindow const& ventana) const = 0;
   /// Until the next call, `alPulsarFuera` is told each button press outside `ventana`, with the pointer's
   /// place; other programs get the press all the same. An empty function ends it.

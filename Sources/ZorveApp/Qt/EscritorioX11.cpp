@@ -3,7 +3,9 @@
 #include <xcb/xinput.h>
 
 #include <QGuiApplication>
+#include <QTimer>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "ZorveApp/Qt/Barras.h"
@@ -12,6 +14,9 @@
 namespace zorve {
 
 namespace {
+
+/// What a window manager takes at most to move the keyboard to a window that was pressed.
+constexpr std::chrono::milliseconds margenDelGestor{200};
 
 xcb_window_t nativa(QWindow const& ventana) { return static_cast<xcb_window_t>(ventana.winId()); }
 
@@ -63,15 +68,30 @@ bool EscritorioX11::tieneElTeclado(QWindow const& ventana) const {
 void EscritorioX11::tomarElTeclado(QWindow& ventana) {
   auto const dueno = duenoDelTeclado();
   if (dueno != nativa(ventana)) anterior_ = dueno;
-  xcb_set_input_focus(conexion_, XCB_INPUT_FOCUS_POINTER_ROOT, nativa(ventana), XCB_CURRENT_TIME);
+  darElTeclado(nativa(ventana));
+}
+
+void EscritorioX11::darElTeclado(std::uint32_t ventana) {
+  xcb_set_input_focus(conexion_, XCB_INPUT_FOCUS_POINTER_ROOT, ventana, XCB_CURRENT_TIME);
   xcb_flush(conexion_);
+}
+
+bool EscritorioX11::nadieTieneElTeclado() const {
+  auto const dueno = duenoDelTeclado();
+  return dueno == XCB_NONE || dueno == XCB_INPUT_FOCUS_POINTER_ROOT || dueno == raiz_;
 }
 
 void EscritorioX11::devolverElTeclado(QWindow& ventana) {
   auto const anterior = std::exchange(anterior_, std::nullopt);
+  if (anterior && tieneElTeclado(ventana)) darElTeclado(*anterior);
+}
+
+void EscritorioX11::soltarElTeclado(QWindow& ventana) {
+  auto const anterior = std::exchange(anterior_, std::nullopt);
   if (!anterior || !tieneElTeclado(ventana)) return;
-  xcb_set_input_focus(conexion_, XCB_INPUT_FOCUS_POINTER_ROOT, *anterior, XCB_CURRENT_TIME);
-  xcb_flush(conexion_);
+  QTimer::singleShot(margenDelGestor, qGuiApp, [this, anterior = *anterior] {
+    if (nadieTieneElTeclado()) darElTeclado(anterior);
+  });
 }
 
 void EscritorioX11::vigilarPulsaciones(QWindow& ventana, std::function<void(QPoint)> alPulsarFuera) {

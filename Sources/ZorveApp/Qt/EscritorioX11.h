@@ -26,6 +26,7 @@ class EscritorioX11 final : public Escritorio, public QAbstractNativeEventFilter
   void preparar(QWindow& ventana) override;
   void tomarElTeclado(QWindow& ventana) override;
   void devolverElTeclado(QWindow& ventana) override;
+  void soltarElTeclado(QWindow& ventana) override;
   [[nodiscard]] bool tieneElTeclado(QWindow const& ventana) const override;
   void vigilarPulsaciones(QWindow& ventana, std::function<void(QPoint)> alPulsarFuera) override;
 
@@ -35,6 +36,8 @@ class EscritorioX11 final : public Escritorio, public QAbstractNativeEventFilter
   void escucharPulsaciones(bool si);
   void comprobarPulsacion();
   [[nodiscard]] std::uint32_t duenoDelTeclado() const;
+  [[nodiscard]] bool nadieTieneElTeclado() const;
+  void darElTeclado(std::uint32_t ventana);
 
   xcb_connection_t* conexion_;
   std::uint32_t raiz_;

@@ -93,8 +93,12 @@ void VentanaDelPanel::mostrarEn(std::optional<Ancla> const& ancla) {
 
 void VentanaDelPanel::esconder() {
   if (!isVisible()) return;
-  escritorio_.vigilarPulsaciones(*this, {});
   escritorio_.devolverElTeclado(*this);
+  ocultar();
+}
+
+void VentanaDelPanel::ocultar() {
+  escritorio_.vigilarPulsaciones(*this, {});
   hide();
   Q_EMIT escondida();
 }
@@ -104,9 +108,10 @@ bool VentanaDelPanel::recienCerrada() const {
 }
 
 void VentanaDelPanel::alPulsarFuera(QPoint donde) {
-  if (zonaDelIcono_.contains(donde)) return;
+  if (zonaDelIcono_.contains(donde) || !isVisible()) return;
   cerradaPorFuera_ = milisegundos();
-  esconder();
+  escritorio_.soltarElTeclado(*this);
+  ocultar();
 }
 
 void VentanaDelPanel::alCambiarElFoco() {

@@ -37,6 +37,7 @@ class VentanaDelPanel final : public QQuickView {
   void keyPressEvent(QKeyEvent* evento) override;
 
  private:
+  void ocultar();
   void vestir();
   void colocarEn(std::optional<Ancla> const& ancla);
   void alCambiarElFoco();
