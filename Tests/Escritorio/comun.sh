@@ -82,8 +82,23 @@ escritorio() {
   export LANG=C.UTF-8
   "$raiz/Scripts/casa-de-muestra.sh" "$casa" $$ "$clase"
   preferencias '{"app.zorve.panelMostradoEnPrimerArranque":true,"zorve.avisoDeBandejaMostrado":true}'
+  gestor
+}
+
+hay_gestor() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
+# A window manager that ends while the server is still starting is started again.
+hay_gestor_o_empieza() {
+  hay_gestor && return
+  if terminado "$gestor_pid"; then empieza_gestor; fi
+  return 1
+}
+empieza_gestor() {
   arranca openbox openbox
-  espera xprop -root _NET_SUPPORTING_WM_CHECK
+  gestor_pid=$ultimo
+}
+gestor() {
+  empieza_gestor
+  espera hay_gestor_o_empieza
 }
 
 preferencias() { printf '%s\n' "$1" >"$casa/.config/com.sarnol.zorve/preferences.json"; }
