@@ -10,7 +10,7 @@ if(ZORVE_SANITIZE)
   target_link_options(zorve_opciones INTERFACE -fsanitize=${ZORVE_SANITIZE})
 endif()
 # These follow values through inlined library code; where g++ optimises or sanitizes they report code that is right
-# (among others its bugs 105651 and 105329). The plain build, which the tests run, keeps them.
+# (its bug 105651 among others). The plain build, which the tests run, keeps them.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND (ZORVE_SANITIZE OR NOT CMAKE_BUILD_TYPE STREQUAL "Debug"))
   target_compile_options(zorve_opciones INTERFACE -Wno-restrict -Wno-array-bounds -Wno-stringop-overflow
     -Wno-stringop-overread -Wno-maybe-uninitialized -Wno-free-nonheap-object)
