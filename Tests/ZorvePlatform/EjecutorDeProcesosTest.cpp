@@ -117,13 +117,14 @@ TEST(EjecutorDeProcesos, elHijoNoHeredaNingunDescriptor) {
 }
 
 TEST(EjecutorDeProcesos, nadaQuedaAbiertoDespues) {
-  auto const cuantos = [] { return salidaDe("ls /proc/$PPID/fd | wc -l"); };
+  // Fewer afterwards is no leak: what the test was started with may close meanwhile.
+  auto const cuantos = [] { return std::stoi(salidaDe("ls /proc/$PPID/fd | wc -l")); };
   auto const antes = cuantos();
   for (int i = 0; i < 20; ++i) {
     ASSERT_EQ(salidaDe("echo a"), "a\n");
     ASSERT_EQ(fallaCon("/no/hay/tal"), ENOENT);
   }
-  EXPECT_EQ(cuantos(), antes);
+  EXPECT_LE(cuantos(), antes);
 }
 
 TEST(EjecutorDeProcesos, nadieQuedaSinEnterrar) {
