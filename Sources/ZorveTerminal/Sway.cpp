@@ -30,6 +30,11 @@ std::int64_t numero(Nodo const& nodo, std::string_view clave) {
   return nodo[clave].get(valor) == simdjson::SUCCESS ? valor : 0;
 }
 
+std::string texto(Nodo const& nodo, std::string_view clave) {
+  std::string_view valor;
+  return nodo[clave].get(valor) == simdjson::SUCCESS ? std::string{valor} : std::string{};
+}
+
 bool cierto(Nodo const& nodo, std::string_view clave) {
   bool valor = false;
   return nodo[clave].get(valor) == simdjson::SUCCESS && valor;
@@ -43,15 +48,18 @@ void agregarHijos(Nodo const& nodo, std::string_view clave, std::vector<Nodo>& p
   std::reverse(pendientes.begin() + desde, pendientes.end());
 }
 
-std::vector<VentanaDeSway> recoger(Nodo const& raiz) {
-  std::vector<VentanaDeSway> ventanas;
+std::vector<Ventana> recoger(Nodo const& raiz) {
+  std::vector<Ventana> ventanas;
   std::vector<Nodo> pendientes{raiz};
   while (!pendientes.empty()) {
     Nodo const nodo = pendientes.back();
     pendientes.pop_back();
     auto const id = numero(nodo, "id");
     auto const pid = numero(nodo, "pid");
-    if (id != 0 && pid > 0) ventanas.push_back({id, static_cast<pid_t>(pid), cierto(nodo, "focused")});
+    if (id > 0 && pid > 0) {
+      ventanas.push_back({static_cast<std::uint64_t>(id), static_cast<pid_t>(pid), texto(nodo, "name"),
+                          cierto(nodo, "focused")});
+    }
     agregarHijos(nodo, "floating_nodes", pendientes);
     agregarHijos(nodo, "nodes", pendientes);
   }
@@ -91,7 +99,7 @@ Descriptor conectar(char const* ruta) {
 
 }  // namespace
 
-std::vector<VentanaDeSway> ventanasDelArbol(std::string_view arbol) {
+std::vector<Ventana> ventanasDelArbol(std::string_view arbol) {
   simdjson::dom::parser lector;
   simdjson::dom::element raiz;
   if (lector.parse(arbol.data(), arbol.size()).get(raiz) != simdjson::SUCCESS) return {};
@@ -102,13 +110,11 @@ Sway::Sway() : enchufe_{conectar(std::getenv("SWAYSOCK"))} {}  // NOLINT(concurr
 
 bool Sway::abierta() const { return static_cast<bool>(enchufe_); }
 
-std::vector<VentanaDeSway> Sway::ventanas() const {
-  return ventanasDelArbol(preguntar(darArbol, "").value_or(""));
-}
+std::vector<Ventana> Sway::todas() const { return ventanasDelArbol(preguntar(darArbol, "").value_or("")); }
 
-bool Sway::activar(std::int64_t id) const {
+bool Sway::activar(std::uint64_t id, std::chrono::milliseconds /*plazo*/) const {
   if (!preguntar(correrOrden, "[con_id=" + std::to_string(id) + "] focus")) return false;
-  return std::ranges::any_of(ventanas(), [id](auto const& una) { return una.id == id && una.enfocada; });
+  return std::ranges::any_of(todas(), [id](auto const& una) { return una.id == id && una.enfocada; });
 }
 
 std::optional<std::string> Sway::preguntar(std::uint32_t tipo, std::string_view texto) const {

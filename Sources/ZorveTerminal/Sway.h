@@ -1,7 +1,5 @@
 #pragma once
 
-#include <sys/types.h>
-
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -9,32 +7,23 @@
 #include <vector>
 
 #include "ZorvePlatform/Posix/Descriptor.h"
+#include "ZorveTerminal/Ventanas.h"
 
 namespace zorve {
 
-/// A window that sway lays out.
-struct VentanaDeSway {
-  std::int64_t id = 0;
-  pid_t pid = 0;
-  bool enfocada = false;
-  bool operator==(VentanaDeSway const&) const = default;
-};
-
 /// Every node of sway's tree (the text of its reply) that has a process, in the order of the tree; none when
 /// the text is not understood.
-[[nodiscard]] std::vector<VentanaDeSway> ventanasDelArbol(std::string_view arbol);
+[[nodiscard]] std::vector<Ventana> ventanasDelArbol(std::string_view arbol);
 
-/// The compositor sway, through its socket.
-class Sway {
+/// The windows of the compositor sway, through the socket whose path $SWAYSOCK gives.
+class Sway final : public Ventanas {
  public:
-  /// Connects to the socket at the path that $SWAYSOCK gives.
   Sway();
 
-  [[nodiscard]] bool abierta() const;
-  [[nodiscard]] std::vector<VentanaDeSway> ventanas() const;
-  /// Brings the window to the front, its workspace too. False when sway does not report it focused
-  /// afterwards.
-  [[nodiscard]] bool activar(std::int64_t id) const;
+  [[nodiscard]] bool abierta() const override;
+  [[nodiscard]] std::vector<Ventana> todas() const override;
+  /// sway answers when it is done: `plazo` is not needed.
+  [[nodiscard]] bool activar(std::uint64_t id, std::chrono::milliseconds plazo) const override;
 
  private:
   [[nodiscard]] std::optional<std::string> preguntar(std::uint32_t tipo, std::string_view texto) const;

@@ -3,9 +3,11 @@
 #include <xcb/xcb.h>
 
 #include <cstdlib>
+#include <map>
 #include <optional>
 #include <string_view>
 #include <thread>
+#include <utility>
 
 namespace zorve {
 
@@ -42,18 +44,30 @@ struct VentanasX::Conexion {
   ~Conexion() { xcb_disconnect(x); }
 
   [[nodiscard]] xcb_atom_t atomo(std::string_view nombre) const {
+    if (auto const conocido = atomos.find(nombre); conocido != atomos.end()) return conocido->second;
     auto const pedido = xcb_intern_atom(x, 0, static_cast<std::uint16_t>(nombre.size()), nombre.data());
     Respuesta<xcb_intern_atom_reply_t> const respuesta{xcb_intern_atom_reply(x, pedido, nullptr)};
-    return respuesta ? respuesta->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+    return atomos[nombre] = respuesta ? respuesta->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
   }
 
-  [[nodiscard]] std::vector<std::uint32_t> numeros(xcb_window_t ventana, std::string_view nombre) const {
+  /// The property's elements, if they are as wide as T.
+  template <class T>
+  [[nodiscard]] std::vector<T> valores(xcb_window_t ventana, std::string_view nombre) const {
     auto const pedido =
         xcb_get_property(x, 0, ventana, atomo(nombre), XCB_GET_PROPERTY_TYPE_ANY, 0, maximoDePalabras);
     Respuesta<xcb_get_property_reply_t> const respuesta{xcb_get_property_reply(x, pedido, nullptr)};
-    if (!respuesta || respuesta->format != 32) return {};
-    auto const* const datos = static_cast<std::uint32_t const*>(xcb_get_property_value(respuesta.get()));
+    if (!respuesta || respuesta->format != 8 * sizeof(T)) return {};
+    auto const* const datos = static_cast<T const*>(xcb_get_property_value(respuesta.get()));
     return {datos, datos + respuesta->value_len};
+  }
+
+  [[nodiscard]] std::string texto(xcb_window_t ventana, std::string_view nombre) const {
+    auto const letras = valores<char>(ventana, nombre);
+    return {letras.begin(), letras.end()};
+  }
+
+  [[nodiscard]] std::vector<std::uint32_t> numeros(xcb_window_t ventana, std::string_view nombre) const {
+    return valores<std::uint32_t>(ventana, nombre);
   }
 
   [[nodiscard]] std::optional<std::uint32_t> numero(xcb_window_t ventana, std::string_view nombre) const {
@@ -83,6 +97,7 @@ struct VentanasX::Conexion {
 
   xcb_connection_t* x = nullptr;
   xcb_window_t raiz = XCB_WINDOW_NONE;
+  mutable std::map<std::string_view, xcb_atom_t> atomos;
 };
 
 VentanasX::VentanasX() : conexion_{std::make_unique<Conexion>()} {}
@@ -91,18 +106,22 @@ VentanasX::~VentanasX() = default;
 
 bool VentanasX::abierta() const { return conexion_->raiz != XCB_WINDOW_NONE; }
 
-std::vector<VentanaX> VentanasX::todas() const {
+std::vector<Ventana> VentanasX::todas() const {
   if (!abierta()) return {};
-  std::vector<VentanaX> ventanas;
+  std::vector<Ventana> ventanas;
+  auto const activa = conexion_->numero(conexion_->raiz, "_NET_ACTIVE_WINDOW");
   for (auto const ventana : conexion_->numeros(conexion_->raiz, "_NET_CLIENT_LIST")) {
     auto const pid = conexion_->numero(ventana, "_NET_WM_PID").value_or(0);
-    ventanas.push_back({ventana, static_cast<pid_t>(pid)});
+    auto titulo = conexion_->texto(ventana, "_NET_WM_NAME");
+    if (titulo.empty()) titulo = conexion_->texto(ventana, "WM_NAME");
+    ventanas.push_back({ventana, static_cast<pid_t>(pid), std::move(titulo), activa == ventana});
   }
   return ventanas;
 }
 
-bool VentanasX::activar(std::uint32_t ventana, std::chrono::milliseconds plazo) const {
+bool VentanasX::activar(std::uint64_t id, std::chrono::milliseconds plazo) const {
   if (!abierta()) return false;
+  auto const ventana = static_cast<xcb_window_t>(id);
   auto const limite = Reloj::now() + plazo;
   auto siguiente = Reloj::now();
   while (Reloj::now() < limite) {

@@ -9,12 +9,13 @@
 
 #include "Dobles/Pseudoterminal.h"
 #include "ZorveTerminal/ProcesosDelTty.h"
+#include "ZorveTerminal/Sway.h"
 
 namespace zorve {
 namespace {
 
 constexpr std::array<pid_t, 3> ascendencia_{30, 20, 10};
-std::vector<VentanaX> const ventanas{{1, 10}, {2, 20}, {3, 20}, {4, 99}, {5, 0}};
+std::vector<Ventana> const ventanas{{1, 10}, {2, 20}, {3, 20}, {4, 99}, {5, 0}};
 
 TEST(VentanaDe, laPropiaSiEstaYEsDeUnAscendiente) {
   EXPECT_EQ(ventanaDe(ventanas, ascendencia_, 3), 3U);
@@ -22,7 +23,7 @@ TEST(VentanaDe, laPropiaSiEstaYEsDeUnAscendiente) {
 }
 
 TEST(VentanaDe, unaPropiaAjenaODesaparecidaNoCuenta) {
-  std::vector<VentanaX> const una{{1, 10}, {4, 99}};
+  std::vector<Ventana> const una{{1, 10}, {4, 99}};
   EXPECT_EQ(ventanaDe(una, ascendencia_, 4), 1U);
   EXPECT_EQ(ventanaDe(una, ascendencia_, 7), 1U);
   EXPECT_EQ(ventanaDe(una, ascendencia_, 0), 1U);
@@ -38,9 +39,10 @@ TEST(VentanaDe, sinVentanasNoHayNinguna) {
 }
 
 TEST(VentanasDelArbol, sonLosNodosConProcesoEnElOrdenDelArbol) {
-  EXPECT_EQ(ventanasDelArbol(R"({"id":1,"nodes":[{"id":2,"pid":20,"focused":true,"nodes":[]},{"id":3,"nodes":[
-      {"id":4,"pid":40}],"floating_nodes":[{"id":5,"pid":50,"focused":false}]}]})"),
-            (std::vector<VentanaDeSway>{{2, 20, true}, {4, 40, false}, {5, 50, false}}));
+  EXPECT_EQ(ventanasDelArbol(
+                R"({"id":1,"nodes":[{"id":2,"pid":20,"name":"a","focused":true,"nodes":[]},{"id":3,"nodes":[
+      {"id":4,"pid":40,"name":null}],"floating_nodes":[{"id":5,"pid":50,"name":"ñ\n","focused":false}]}]})"),
+            (std::vector<Ventana>{{2, 20, "a", true}, {4, 40}, {5, 50, "ñ\n"}}));
 }
 
 TEST(VentanasDelArbol, loQueNoSeEntiendeNoTieneVentanas) {
