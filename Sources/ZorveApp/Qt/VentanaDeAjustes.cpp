@@ -1,5 +1,6 @@
 #include "ZorveApp/Qt/VentanaDeAjustes.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QQmlContext>
 
@@ -8,12 +9,23 @@
 #include "ZorveApp/Qt/EstiloQt.h"
 #include "ZorveApp/Qt/IconoDeBarra.h"
 #include "ZorveApp/Qt/TeclasQt.h"
+#include "ZorveApp/Qt/X11.h"
 
 namespace zorve {
 
 namespace {
 
 constexpr QSize tamano{static_cast<int>(Medidas::ajustes.ancho), static_cast<int>(Medidas::ajustes.alto)};
+
+/// The class is the desktop entry's name, as Wayland has it by itself.
+void ponerClase(QWindow& ventana) {
+  auto* const conexion = X11::conexion();
+  if (!conexion) return;
+  ventana.create();
+  X11::escribirClase(conexion, static_cast<xcb_window_t>(ventana.winId()),
+                     QCoreApplication::applicationName().toLatin1(),
+                     QGuiApplication::desktopFileName().toLatin1());
+}
 
 }  // namespace
 
@@ -36,6 +48,7 @@ void VentanaDeAjustes::construir() {
   rootContext()->setContextProperty(QStringLiteral("ajustes"), &puente_);
   rootContext()->setContextProperty(QStringLiteral("estilo"), estiloParaQml(true));
   setSource(QUrl{QStringLiteral("qrc:/Zorve/Vistas/Ajustes.qml")});
+  ponerClase(*this);
   auto const libre = screen()->availableGeometry();
   setPosition(libre.center() - QPoint{tamano.width() / 2, tamano.height() / 2});
 }

@@ -40,6 +40,13 @@ std::vector<std::uint32_t> propiedad(xcb_connection_t* conexion, xcb_window_t de
   return {todos.begin(), todos.end()};
 }
 
+void escribirClase(xcb_connection_t* conexion, xcb_window_t ventana, QByteArray const& instancia,
+                   QByteArray const& clase) {
+  auto const nombres = instancia + '\0' + clase + '\0';
+  xcb_change_property(conexion, XCB_PROP_MODE_REPLACE, ventana, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
+                      static_cast<std::uint32_t>(nombres.size()), nombres.constData());
+}
+
 std::optional<QRgb> pixel(xcb_connection_t* conexion, QPoint donde) {
   auto const pedido =
       xcb_get_image(conexion, XCB_IMAGE_FORMAT_Z_PIXMAP, raiz(conexion), static_cast<std::int16_t>(donde.x()),

@@ -31,6 +31,10 @@ using Respuesta = std::unique_ptr<T, Liberar>;
 [[nodiscard]] std::vector<std::uint32_t> propiedad(xcb_connection_t* conexion, xcb_window_t de,
                                                    QByteArray const& nombre);
 
+/// The names by which a window manager knows whose window it is. Before the window is shown.
+void escribirClase(xcb_connection_t* conexion, xcb_window_t ventana, QByteArray const& instancia,
+                   QByteArray const& clase);
+
 /// The colour of the screen at `donde`, in native pixels; nothing where it cannot be read or is not of 24
 /// bits.
 [[nodiscard]] std::optional<QRgb> pixel(xcb_connection_t* conexion, QPoint donde);

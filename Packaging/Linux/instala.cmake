@@ -1,0 +1,16 @@
+# Run by `cmake --install`: writes the files that name the program's absolute path, which is known only now.
+set(ejecutable "${CMAKE_INSTALL_PREFIX}/bin/zorve")
+if(NOT ejecutable MATCHES "^/[A-Za-z0-9 /._+@:,=~-]*$")
+  message(FATAL_ERROR "zorve cannot be installed in '${CMAKE_INSTALL_PREFIX}': a desktop entry and a D-Bus service "
+    "must name its path, and this one holds characters that they would misread. Choose another --prefix.")
+endif()
+
+function(instala_con_ruta plantilla carpeta)
+  string(REPLACE ".in" "" nombre ${plantilla})
+  set(hecho "${TALLER}/${nombre}")
+  configure_file("${CMAKE_CURRENT_LIST_DIR}/${plantilla}" "${hecho}" @ONLY)
+  file(INSTALL "${hecho}" DESTINATION "${CMAKE_INSTALL_PREFIX}/${carpeta}")
+endfunction()
+
+instala_con_ruta(com.sarnol.zorve.desktop.in share/applications)
+instala_con_ruta(com.sarnol.zorve.service.in share/dbus-1/services)
