@@ -51,7 +51,7 @@ std::string valorEn(std::span<std::string const> entorno, std::string const& nom
 }
 
 std::string shellDeLaPersona(std::span<std::string const> entorno) {
-  auto const elegida = valorEn(entorno, "SHELL");
+  auto elegida = valorEn(entorno, "SHELL");
   if (esEjecutable(elegida)) return elegida;
   passwd const* const cuenta = ::getpwuid(::getuid());
   if (cuenta != nullptr && esEjecutable(cuenta->pw_shell)) return cuenta->pw_shell;
@@ -59,7 +59,7 @@ std::string shellDeLaPersona(std::span<std::string const> entorno) {
 }
 
 std::string casaDeLaPersona(std::span<std::string const> entorno) {
-  auto const casa = valorEn(entorno, "HOME");
+  auto casa = valorEn(entorno, "HOME");
   if (casa.starts_with('/')) return casa;
   passwd const* const cuenta = ::getpwuid(::getuid());
   return cuenta != nullptr && cuenta->pw_dir[0] == '/' ? cuenta->pw_dir : "/";

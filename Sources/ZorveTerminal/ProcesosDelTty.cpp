@@ -25,9 +25,9 @@ std::string leer(std::string const& ruta) {
 
 std::optional<pid_t> numero(std::string_view texto) {
   pid_t valor = 0;
-  auto const* const fin = texto.data() + texto.size();
-  auto const [hasta, error] = std::from_chars(texto.data(), fin, valor);
-  return error == std::errc{} && hasta == fin ? std::optional{valor} : std::nullopt;
+  auto const [hasta, error] = std::from_chars(texto.data(), texto.data() + texto.size(), valor);
+  bool const entero = error == std::errc{} && hasta == texto.data() + texto.size();
+  return entero ? std::optional{valor} : std::nullopt;
 }
 
 bool esNombreDeTty(std::string_view nombre) {

@@ -20,8 +20,8 @@ std::string variable(char const* nombre) {
   return valor == nullptr ? std::string{} : std::string{valor};
 }
 
-std::string absolutaO(std::string valor, std::string const& otra) {
-  return valor.starts_with('/') ? std::move(valor) : otra;
+std::string absolutaO(std::string const& valor, std::string const& otra) {
+  return valor.starts_with('/') ? valor : otra;
 }
 
 std::vector<std::string> absolutas(std::string_view lista) {
