@@ -1,12 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <cstdlib>
 #include <filesystem>
-#include <iostream>
 #include <string>
 #include <vector>
 
+#include "Terminales/CadaTerminal.h"
 #include "Terminales/Escritorio.h"
 #include "ZorveCore/Escape.h"
 #include "ZorveCore/FichaDeTerminal.h"
@@ -32,25 +31,8 @@ std::vector<std::string> directoriosHostiles() {
           raro};
 }
 
-bool todo() {
-  char const* const valor = std::getenv("ZORVE_TODO");
-  return valor != nullptr && std::string{valor} == "si";
-}
-
-/// The terminals that are tried here: those of the table that this machine has.
-bool estaAqui(FichaDeTerminal const& ficha) {
-  if (programaInstalado(ficha.programas.front())) return true;
-  std::cout << "skipped: " << ficha.nombre << " is not installed here\n";
-  return false;
-}
-
 class CadaTerminal : public testing::TestWithParam<FichaDeTerminal> {
  protected:
-  /// foot speaks Wayland alone.
-  static Escritorio::Pantalla pantalla() {
-    return GetParam().identificador == "foot" ? Escritorio::Pantalla::wayland : Escritorio::Pantalla::x11;
-  }
-
   static void abreEn(Escritorio const& escritorio, std::string const& nombre) {
     auto const directorio = escritorio.casa().carpeta("d/" + nombre);
     auto const corrida = escritorio.ayudante(
@@ -69,17 +51,11 @@ class CadaTerminal : public testing::TestWithParam<FichaDeTerminal> {
 
 INSTANTIATE_TEST_SUITE_P(Linux, CadaTerminal,
                          testing::ValuesIn(fichasDeLinux().begin(), fichasDeLinux().end()),
-                         [](auto const& caso) {
-                           std::string nombre;
-                           for (char const letra : caso.param.identificador) {
-                             if (letra != '.' && letra != '-') nombre += letra;
-                           }
-                           return nombre;
-                         });
+                         nombreDelTerminal);
 
 TEST_P(CadaTerminal, abreEnElDirectorioYEntregaLosArgumentosByteAByte) {
   if (!estaAqui(GetParam())) return;
-  Escritorio const escritorio{pantalla()};
+  Escritorio const escritorio{pantallaDe(GetParam())};
   abreEn(escritorio, raro);
 }
 
@@ -97,8 +73,8 @@ TEST_P(CadaTerminal, sinPantallaFallaConSusPropiasPalabrasEnTresSegundos) {
 }
 
 TEST_P(CadaTerminal, largoAbreEnCadaDirectorioHostilConOtroGestorDeVentanas) {
-  if (!todo() || !estaAqui(GetParam())) return;
-  Escritorio const escritorio{pantalla(), "xfwm4"};
+  if (!conLosLargos() || !estaAqui(GetParam())) return;
+  Escritorio const escritorio{pantallaDe(GetParam()), "xfwm4"};
   for (auto const& nombre : directoriosHostiles()) abreEn(escritorio, nombre);
 }
 

@@ -11,7 +11,7 @@
 #include <csignal>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <string_view>
 #include <thread>
@@ -78,8 +78,10 @@ bool esperarA(std::function<bool()> const& condicion, std::chrono::seconds plazo
 }
 
 std::string leerArchivoDePrueba(std::string const& ruta) {
-  std::ifstream entrada{ruta, std::ios::binary};
-  return {std::istreambuf_iterator<char>{entrada}, {}};
+  std::ifstream const entrada{ruta, std::ios::binary};
+  std::ostringstream todo;
+  todo << entrada.rdbuf();  // what cannot be read to the end, as of a process that ends, is no exception
+  return std::move(todo).str();
 }
 
 std::optional<std::string> programaInstalado(std::string const& nombre) {

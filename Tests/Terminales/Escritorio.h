@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,14 @@
 
 #include "Dobles/CarpetaTemporal.h"
 #include "Dobles/Correr.h"
+#include "ZorveCore/FichaDeTerminal.h"
+
+namespace zorve {
+
+/// How tests name a terminal.
+inline void PrintTo(FichaDeTerminal const& ficha, std::ostream* salida) { *salida << ficha.identificador; }
+
+}  // namespace zorve
 
 namespace zorve::pruebas {
 
@@ -19,7 +28,7 @@ namespace zorve::pruebas {
 [[nodiscard]] bool esperarA(std::function<bool()> const& condicion,
                             std::chrono::seconds plazo = std::chrono::seconds{30});
 
-/// Everything in a file, or the empty text.
+/// Everything in a file as far as it can be read, or the empty text.
 [[nodiscard]] std::string leerArchivoDePrueba(std::string const& ruta);
 
 /// What the stand-in for `claude` wrote down when it started.

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "Terminales/Escritorio.h"
+#include "ZorveCore/FichaDeTerminal.h"
+
+namespace zorve::pruebas {
+
+/// Whether the long tests run too (./test --all).
+[[nodiscard]] bool conLosLargos();
+
+/// Whether this machine has the terminal; says by name that it is skipped when it has not.
+[[nodiscard]] bool estaAqui(FichaDeTerminal const& ficha);
+
+/// The display that the terminal is tried on: foot speaks Wayland alone.
+[[nodiscard]] Escritorio::Pantalla pantallaDe(FichaDeTerminal const& ficha);
+
+/// The terminal's identifier as a part of a test's name.
+[[nodiscard]] std::string nombreDelTerminal(testing::TestParamInfo<FichaDeTerminal> const& caso);
+
+}  // namespace zorve::pruebas

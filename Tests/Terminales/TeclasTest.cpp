@@ -1,0 +1,140 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "Terminales/CadaTerminal.h"
+#include "Terminales/Escritorio.h"
+#include "Terminales/Teclado.h"
+
+namespace zorve::pruebas {
+namespace {
+
+/// What /proc says of a process: its state ('T' for a stopped one), or '\0' once it is gone; and its parent.
+struct Proceso {
+  char estado = '\0';
+  pid_t padre = 0;
+};
+
+Proceso procesoDe(pid_t pid) {
+  auto const linea = leerArchivoDePrueba("/proc/" + std::to_string(pid) + "/stat");
+  Proceso proceso;
+  if (auto const fin = linea.rfind(')'); fin != std::string::npos) {
+    std::istringstream{linea.substr(fin + 1)} >> proceso.estado >> proceso.padre;
+  }
+  return proceso;
+}
+
+/// A window with a session in it, in the hands of a person who has only a keyboard.
+class Ventana {
+ public:
+  Ventana(FichaDeTerminal const& ficha, std::string const& shell) : escritorio{pantallaDe(ficha)} {
+    escritorio.variables["SHELL"] = shell;
+    auto const& casa = escritorio.casa();
+    std::string const ajustes = "PATH=\"$HOME/propios:$PATH\"\nPS1='LISTO> '\n";
+    casa.escribir(".bashrc", ajustes + "PROMPT_COMMAND='echo . >>\"$HOME/prompts\"'\n");
+    casa.escribir(".zshrc", ajustes + "precmd() { echo . >>\"$HOME/prompts\" }\n");
+    EXPECT_EQ(escritorio.correr({"mkdir", "-p", casa.dentro(".config/fish")}).codigo, 0);
+    casa.escribir(".config/fish/config.fish", "set -x PATH \"$HOME/propios\" $PATH\n");
+    casa.escribir("ajustes.sh", ajustes);
+    escritorio.variables["ENV"] = casa.dentro("ajustes.sh");
+    auto const corrida = escritorio.ayudante({"open", ficha.identificador, casa.ruta(), "claude -r 'un id'"});
+    EXPECT_EQ(corrida.codigo, 0) << corrida.error;
+    EXPECT_TRUE(teclado.tieneVentana());
+  }
+
+  /// Waits for the start number `cuantas` of the stand-in for `claude`.
+  [[nodiscard]] Anotado sesion(std::size_t cuantas) const {
+    auto const todas = escritorio.anotados(cuantas);
+    EXPECT_EQ(todas.size(), cuantas);
+    return todas.size() == cuantas ? todas.back() : Anotado{};
+  }
+  [[nodiscard]] bool hayPrompts(std::size_t cuantos) const {
+    return esperarA(
+        [&] { return leerArchivoDePrueba(escritorio.casa().dentro("prompts")).size() >= 2 * cuantos; });
+  }
+  [[nodiscard]] static bool llegaA(pid_t pid, char estado) {
+    return esperarA([&] { return procesoDe(pid).estado == estado; });
+  }
+  [[nodiscard]] bool leyo(Anotado const& sesion, std::string const& linea,
+                          std::chrono::seconds plazo = std::chrono::seconds{20}) const {
+    auto const ruta = escritorio.casa().dentro("teclas/" + std::to_string(sesion.pid));
+    return esperarA([&] { return leerArchivoDePrueba(ruta).ends_with(linea + "\n"); }, plazo);
+  }
+  /// A window that is just opening may miss keys: types until the session has read a whole line.
+  [[nodiscard]] bool escucha(Anotado const& sesion) const {
+    return esperarA([&] {
+      teclado.linea("uno");
+      return leyo(sesion, "uno", std::chrono::seconds{1});
+    });
+  }
+
+  Escritorio escritorio;
+  Teclado teclado{escritorio};
+};
+
+class TeclasEnCadaTerminal : public testing::TestWithParam<FichaDeTerminal> {
+ protected:
+  static void detenerSeguirTerminarYRepetir(std::string const& shell) {
+    Ventana const ventana{GetParam(), shell};
+    auto const& teclado = ventana.teclado;
+    auto const primera = ventana.sesion(1);
+    ASSERT_GT(primera.pid, 0);
+    auto const laShell = procesoDe(primera.pid).padre;
+    ASSERT_TRUE(ventana.escucha(primera));
+    teclado.control("z");
+    ASSERT_TRUE(Ventana::llegaA(primera.pid, 'T')) << "Ctrl-Z stops the session";
+    ASSERT_TRUE(ventana.hayPrompts(1)) << "and the prompt is back";
+    teclado.linea("fg");
+    ASSERT_TRUE(esperarA([&] { return procesoDe(primera.pid).estado == 'S'; }));
+    teclado.linea("dos");
+    ASSERT_TRUE(ventana.leyo(primera, "dos")) << "fg takes it up again";
+    teclado.control("c");
+    ASSERT_TRUE(Ventana::llegaA(primera.pid, '\0')) << "Ctrl-C ends the session";
+    ASSERT_TRUE(ventana.hayPrompts(2));
+    for (auto const* const tecla : {"Up", "Up", "Return"}) teclado.tecla(tecla);
+    auto const segunda = ventana.sesion(2);
+    EXPECT_EQ(segunda.args, (std::vector<std::string>{"-r", "un id"})) << "the history has the line";
+    EXPECT_EQ(segunda.tty, primera.tty);
+    teclado.control("c");
+    ASSERT_TRUE(ventana.hayPrompts(3));
+    teclado.linea("exit");
+    EXPECT_TRUE(Ventana::llegaA(laShell, '\0')) << "the shell is the window's own";
+  }
+
+  static void correrLaLineaYQuedarse(std::string const& shell) {
+    Ventana const ventana{GetParam(), shell};
+    auto const primera = ventana.sesion(1);
+    EXPECT_EQ(primera.args, (std::vector<std::string>{"-r", "un id"}));
+    ASSERT_TRUE(ventana.escucha(primera));
+    ventana.teclado.control("c");
+    ASSERT_TRUE(Ventana::llegaA(primera.pid, '\0'));
+    ventana.teclado.linea("claude otra");
+    EXPECT_EQ(ventana.sesion(2).args, (std::vector<std::string>{"otra"}));
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(Linux, TeclasEnCadaTerminal,
+                         testing::ValuesIn(fichasDeLinux().begin(), fichasDeLinux().end()),
+                         nombreDelTerminal);
+
+TEST_P(TeclasEnCadaTerminal, enBashControlZFgControlCEHistorialObedecenAlTeclado) {
+  if (estaAqui(GetParam())) detenerSeguirTerminarYRepetir("/bin/bash");
+}
+
+TEST_P(TeclasEnCadaTerminal, largoEnZshControlZFgControlCEHistorialObedecenAlTeclado) {
+  if (conLosLargos() && estaAqui(GetParam())) detenerSeguirTerminarYRepetir("/bin/zsh");
+}
+
+TEST_P(TeclasEnCadaTerminal, largoFishCorreLaLineaYSeQueda) {
+  if (conLosLargos() && estaAqui(GetParam())) correrLaLineaYQuedarse("/usr/bin/fish");
+}
+
+TEST_P(TeclasEnCadaTerminal, largoDashCorreLaLineaYSeQueda) {
+  if (conLosLargos() && estaAqui(GetParam())) correrLaLineaYQuedarse("/bin/dash");
+}
+
+}  // namespace
+}  // namespace zorve::pruebas
