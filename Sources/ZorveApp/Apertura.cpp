@@ -29,7 +29,8 @@ std::optional<std::string> fallaAlCorrer(ComandoDeApertura const& comando, Ejecu
 }
 
 ResultadoDeApertura abrirCon(TerminalResuelta const& resuelta, PeticionDeApertura const& peticion) {
-  Launcher const lanzador{resuelta.terminal, peticion.ejecutor, peticion.rutaPs, peticion.catalogo.conocidas};
+  Launcher const lanzador{resuelta.terminal, peticion.ejecutor, peticion.rutaPs,
+                          peticion.anfitrionas(peticion.catalogo.conocidas, resuelta.terminal)};
   ResultadoDeApertura resultado{.terminal = resuelta};
   auto const plan = lanzador.plan(peticion.sesion);
   if (!plan) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "ZorveApp/Textos.h"
+#include "ZorveCore/Anfitrionas.h"
 #include "ZorveCore/CatalogoDeTerminales.h"
 #include "ZorveCore/Ejecutor.h"
 #include "ZorveCore/Launcher.h"
@@ -19,6 +20,7 @@ struct PeticionDeApertura {
   Ejecutor const& ejecutor;
   std::string rutaPs;
   Textos textos;
+  Anfitrionas anfitrionas = soloLasConocidas;
 };
 
 /// `terminal`: what the catalogue resolved, nothing when it failed. At most one of the two texts is set.

@@ -137,7 +137,7 @@ void ModeloDeVista::terminarCarga(Carga carga) {
 void ModeloDeVista::abrirSeleccionada() {
   auto const* sesion = seleccionada();
   if (sesion == nullptr) return;
-  PeticionDeApertura peticion{*sesion, con_.catalogo, con_.ejecutor, con_.rutaPs, textos()};
+  PeticionDeApertura peticion{*sesion, con_.catalogo, con_.ejecutor, con_.rutaPs, textos(), con_.anfitrionas};
   error_.escribir(std::nullopt);
   aviso_.escribir(std::nullopt);
   con_.despachador.enSegundoPlano(

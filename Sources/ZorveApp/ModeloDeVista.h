@@ -30,6 +30,7 @@ struct ColaboradoresDelModelo {
   PreferenciaDeIdioma const& idioma;
   ReglaDePlegado regla = ReglaDePlegado::general;
   std::string rutaPs = "/bin/ps";
+  Anfitrionas anfitrionas = soloLasConocidas;
 };
 
 /// The state behind the panel. Main thread only; loading, resolving, planning and running happen in the

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "ZorveCore/Anfitrionas.h"
 #include "ZorveCore/AplicacionesInstaladas.h"
 #include "ZorveCore/CatalogoDeTerminales.h"
 #include "ZorveCore/ManejadorDelSistema.h"
@@ -23,6 +24,8 @@ struct ServiciosDeTerminal {
   std::vector<TerminalRef> propias;
   /// Those of the other system: they can plan, but are never installed here.
   std::vector<TerminalRef> ajenas;
+  /// Which of this system's may host a running session.
+  Anfitrionas anfitrionas = soloLasConocidas;
 
   [[nodiscard]] CatalogoDeTerminales catalogo() const {
     return catalogoDelSistema(propias, *manejador, *preferencias);

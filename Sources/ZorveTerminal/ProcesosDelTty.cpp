@@ -1,16 +1,19 @@
 #include "ZorveTerminal/ProcesosDelTty.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <array>
+#include <cerrno>
 #include <charconv>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <sstream>
 #include <string_view>
 
 #include "ZorveCore/Escape.h"
+#include "ZorvePlatform/Posix/Descriptor.h"
 
 namespace zorve {
 
@@ -18,9 +21,18 @@ namespace {
 
 constexpr std::size_t generacionesComoMucho = 64;
 
+/// What can be read of a file of /proc; nothing of a process that ends meanwhile.
 std::string leer(std::string const& ruta) {
-  std::ifstream entrada{ruta, std::ios::binary};
-  return {std::istreambuf_iterator<char>{entrada}, {}};
+  Descriptor const archivo{::open(ruta.c_str(), O_RDONLY | O_CLOEXEC)};
+  std::string texto;
+  std::array<char, 4096> trozo{};
+  for (;;) {
+    auto const n = ::read(archivo.numero(), trozo.data(), trozo.size());
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) return {};
+    if (n == 0) return texto;
+    texto.append(trozo.data(), static_cast<std::size_t>(n));
+  }
 }
 
 std::optional<pid_t> numero(std::string_view texto) {
@@ -82,6 +94,12 @@ std::vector<pid_t> ascendencia(Proceso const& proceso) {
     pids.push_back(actual->pid);
   }
   return pids;
+}
+
+std::string nombreDelProceso(pid_t pid) {
+  auto nombre = leer("/proc/" + std::to_string(pid) + "/comm");
+  if (nombre.ends_with('\n')) nombre.pop_back();
+  return nombre;
 }
 
 std::string variableDelProceso(pid_t pid, std::string const& nombre) {

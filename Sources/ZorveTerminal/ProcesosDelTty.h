@@ -32,6 +32,9 @@ struct Proceso {
 /// The process and those that it descends from, itself first, at most 64.
 [[nodiscard]] std::vector<pid_t> ascendencia(Proceso const& proceso);
 
+/// The name of the process, at most 15 characters, or the empty text.
+[[nodiscard]] std::string nombreDelProceso(pid_t pid);
+
 /// A variable that the process was started with, or the empty text.
 [[nodiscard]] std::string variableDelProceso(pid_t pid, std::string const& nombre);
 

@@ -2,6 +2,8 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <expected>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -9,6 +11,7 @@
 
 #include "ZorveTerminal/Abrir.h"
 #include "ZorveTerminal/Enfocar.h"
+#include "ZorveTerminal/EnfocarTmux.h"
 #include "ZorveTerminal/Entorno.h"
 
 namespace {
@@ -20,11 +23,14 @@ constexpr int usoIncorrecto = 2;
 constexpr std::string_view ayuda =
     "Usage: zorve-terminal open TERMINAL DIRECTORY COMMANDLINE\n"
     "       zorve-terminal focus TERMINAL TTY\n"
+    "       zorve-terminal focus tmux TTY [TERMINAL]\n"
     "       zorve-terminal --help | --version\n"
     "\n"
     "Opens a new window of the terminal TERMINAL in DIRECTORY, runs the shell command line COMMANDLINE\n"
     "there in the person's shell and leaves that shell waiting; or brings the window of the session on the\n"
-    "terminal device TTY to the front.\n"
+    "terminal device TTY to the front. Of a tmux pane that is the window that shows it, or else a new one "
+    "of\n"
+    "TERMINAL.\n"
     "\n"
     "Terminals:";
 
@@ -65,13 +71,26 @@ void rendirse(int /*senal*/) {
   ::_exit(1);
 }
 
+int enfocadoConPlazo(std::function<std::expected<void, std::string>()> const& enfocarlo) {
+  if (std::signal(SIGALRM, rendirse) != SIG_ERR) ::alarm(plazoDeEnfoque);
+  auto const resultado = enfocarlo();
+  return resultado ? 0 : quejarse(resultado.error(), 1);
+}
+
+int enfocarPaneDeTmux(std::span<std::string const> args) {
+  if (args.size() != 1 && args.size() != 2) {
+    return quejarse("focus tmux takes a tty and a terminal", usoIncorrecto);
+  }
+  auto const* const elegida = args.size() == 2 ? fichaDeLinux(args[1]) : nullptr;
+  return enfocadoConPlazo([&] { return enfocarEnTmux(args[0], elegida, entornoActual()); });
+}
+
 int enfocarVentana(std::span<std::string const> args) {
+  if (!args.empty() && args[0] == "tmux") return enfocarPaneDeTmux(args.subspan(1));
   if (args.size() != 2) return quejarse("focus takes a terminal and a tty", usoIncorrecto);
   auto const* const ficha = fichaDeLinux(args[0]);
   if (ficha == nullptr) return quejarse("unknown terminal: " + args[0], usoIncorrecto);
-  if (std::signal(SIGALRM, rendirse) != SIG_ERR) ::alarm(plazoDeEnfoque);
-  auto const resultado = enfocar(*ficha, args[1]);
-  return resultado ? 0 : quejarse(resultado.error(), 1);
+  return enfocadoConPlazo([&] { return enfocar(*ficha, args[1]); });
 }
 
 int correr(std::span<std::string const> args) {

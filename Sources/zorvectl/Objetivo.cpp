@@ -47,7 +47,8 @@ std::expected<TerminalRef, SinPlan> terminalPara(Contexto const& contexto,
 Plan planDe(Contexto const& contexto, Session const& sesion, TerminalRef const& terminal,
             ServiciosDeTerminal const& servicios) {
   EjecutorDeProcesos const ejecutor;
-  Launcher const lanzador{terminal, ejecutor, servicios.rutaPs, servicios.propias};
+  Launcher const lanzador{terminal, ejecutor, servicios.rutaPs,
+                          servicios.anfitrionas(servicios.propias, terminal)};
   auto plan = lanzador.plan(sesion);
   if (!plan) return sinPlan(contexto, plan.error());
   return *std::move(plan);

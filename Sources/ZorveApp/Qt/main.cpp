@@ -15,6 +15,7 @@
 #include "ZorveApp/Qt/ServicioDeSesion.h"
 #include "ZorveApp/Qt/TeclasQt.h"
 #include "ZorveCore/SessionIndex.h"
+#include "ZorveCore/TerminalTmux.h"
 #include "ZorveCore/TerminalesDeLinux.h"
 #include "ZorvePlatform/Linux/AplicacionesLinux.h"
 #include "ZorvePlatform/Linux/InicioDeSesionLinux.h"
@@ -90,7 +91,8 @@ struct Programa {
                         .portapapeles = mundo.portapapeles,
                         .despachador = mundo.despachador,
                         .idioma = mundo.idioma,
-                        .regla = reglaDelEntorno()}};
+                        .regla = reglaDelEntorno(),
+                        .anfitrionas = anfitrionasDeLinux(rutaDelAyudante(mundo.ejecutable))}};
   PanelView panel{modelo,
                   estado,
                   mundo.idioma,

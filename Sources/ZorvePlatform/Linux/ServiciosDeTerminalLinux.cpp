@@ -1,3 +1,4 @@
+#include "ZorveCore/TerminalTmux.h"
 #include "ZorveCore/TerminalesDeLinux.h"
 #include "ZorvePlatform/Linux/AplicacionesLinux.h"
 #include "ZorvePlatform/Linux/EntornoLinux.h"
@@ -29,6 +30,7 @@ ServiciosDeTerminal serviciosDeTerminal(std::string const& home) {
       .rutaPs = rutaDePs(entorno)};
   servicios.propias =
       terminalesDeLinux(*servicios.aplicaciones, rutaDelAyudante(), sesionGraficaDelProceso());
+  servicios.anfitrionas = anfitrionasDeLinux(rutaDelAyudante());
   servicios.ajenas = todas(*servicios.aplicaciones);
   return servicios;
 }
