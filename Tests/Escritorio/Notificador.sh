@@ -1,30 +1,55 @@
 #!/usr/bin/env bash
-# A StatusNotifier host: the item registers, a click toggles the panel, which hangs below the bar.
+# A StatusNotifier host, with a real pointer: a click toggles the panel, which hangs below the bar; the right button
+# opens the menu and leaves the panel as it is; a Control click opens it too. Its entries work by pointer and by key.
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
 escritorio lista
-arranca panel xfce4-panel --disable-wm-check
-espera tiene_nombre org.kde.StatusNotifierWatcher
+barra_sn 6
 zorve
-registrado() {
-  dbus-send --session --print-reply --dest=org.kde.StatusNotifierWatcher /StatusNotifierWatcher \
-    org.freedesktop.DBus.Properties.Get string:org.kde.StatusNotifierWatcher string:RegisteredStatusNotifierItems |
-    grep -q StatusNotifierItem
-}
-espera registrado
+espera hay_icono_sn
 ! hay_icono_xembed || fallo "an XEmbed icon beside the StatusNotifier item"
-item=$(dbus-send --session --print-reply --dest=org.kde.StatusNotifierWatcher /StatusNotifierWatcher \
-  org.freedesktop.DBus.Properties.Get string:org.kde.StatusNotifierWatcher string:RegisteredStatusNotifierItems |
-  sed -nE 's/.*string "([^"]*)".*/\1/p')
-activa() {
-  dbus-send --session --print-reply --dest="${item%%/*}" "/${item#*/}" org.kde.StatusNotifierItem.Activate int32:0 int32:0
-}
-xdotool mousemove 1160 12
-activa
-espera panel_visible
+read -r x y < <(centro "$(casilla_sn)")
+
+for _ in 1 2; do
+  pulsa_en "$x" "$y"
+  espera panel_visible
+  espera panel_con_teclado
+  read -r px py _ _ < <(lugar "$(panel)")
+  ((py >= 27 && py <= 40)) || fallo "the panel stands at $py, not below the bar"
+  ((px <= x)) || fallo "the panel stands at $px, not at the icon"
+  pulsa_en "$x" "$y"
+  espera no panel_visible
+done
+
+# The host draws the menu on a right click.
+pulsa_en "$x" "$y"
 espera panel_con_teclado
-read -r x y ancho alto < <(lugar "$(panel)")
-((y >= 24 && y <= 48)) || fallo "the panel stands at $y, not below the bar"
-((x > 800 && x + ancho <= 1280)) || fallo "the panel stands at $x, not at the pointer"
-activa
-espera no panel_visible
+pulsa_en "$x" "$y" 3
+espera menu_sn
+panel_visible || fallo "the menu took the panel away"
+xdotool key Escape
+espera no menu_sn
+panel_visible || fallo "closing the menu took the panel away"
+pulsa_en "$x" "$y" 3
+espera menu_sn
+read -r mx my mancho _ < <(lugar "$(menu_sn)")
+pulsa_en $((mx + mancho / 2)) $((my + 14))
+espera ajustes
+! panel_visible || fallo "the panel is beside the settings"
+xdotool key ctrl+w
+espera no ajustes
+
+# We draw it on a Control click.
+xdotool mousemove "$x" "$y" keydown Control_L click 1 keyup Control_L
+espera menu
+! panel_visible || fallo "a Control click opened the panel"
+xdotool key Home Return
+espera ajustes
+xdotool key ctrl+w
+espera no ajustes
+pulsa_en "$x" "$y"
+espera panel_visible
+pulsa_en "$x" "$y" 3
+espera menu_sn
+xdotool key Up Return
+espera terminado "$zorve_pid"

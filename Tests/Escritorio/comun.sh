@@ -11,12 +11,23 @@ hijos=()
 limpia() {
   local estado=$?
   [ "$estado" -eq 0 ] || cuenta_lo_visto
-  kill "${hijos[@]}" 2>/dev/null || :
-  wait 2>/dev/null || :
+  termina_hijos
   rm -rf "$casa"
   exit "$estado"
 }
 trap limpia EXIT
+
+# Whoever has not ended some seconds after it was asked to is named and killed.
+termina_hijos() {
+  local fin=$((SECONDS + 5)) cada
+  kill "${hijos[@]}" 2>/dev/null || :
+  for cada in "${hijos[@]}"; do
+    until terminado "$cada" || [ "$SECONDS" -ge "$fin" ]; do sleep 0.05; done
+    terminado "$cada" || echo "killed, it did not end: $(tr '\0' ' ' <"/proc/$cada/cmdline")" >&2
+    kill -9 "$cada" 2>/dev/null || :
+  done
+  wait 2>/dev/null || :
+}
 
 cuenta_lo_visto() {
   echo "--- windows" >&2
@@ -73,13 +84,14 @@ bus() {
 escritorio() {
   local clase=${1:-lista}
   [ $# -eq 0 ] || shift
-  servidor "$@"
-  bus
   mkdir -p "$casa/run" "$casa/.config/com.sarnol.zorve"
   chmod 700 "$casa/run"
   export HOME=$casa XDG_CONFIG_HOME=$casa/.config XDG_RUNTIME_DIR=$casa/run XDG_DATA_HOME=$casa/.local/share
   unset XDG_CURRENT_DESKTOP WAYLAND_DISPLAY LC_ALL
   export LANG=C.UTF-8
+  # What the bus starts has this home too.
+  servidor "$@"
+  bus
   "$raiz/Scripts/casa-de-muestra.sh" "$casa" $$ "$clase"
   preferencias '{"app.zorve.panelMostradoEnPrimerArranque":true,"zorve.avisoDeBandejaMostrado":true}'
   gestor
@@ -168,6 +180,65 @@ con_bandeja_xembed() { xprop -root _NET_CLIENT_LIST && xdotool search --class tr
 # The icon's window in an XEmbed tray.
 icono_xembed() { xwininfo -root -tree | awk '/"Zorve": \("zorve"/ && !/ (440x560|620x460|1x1)\+/ { print $1; exit }'; }
 hay_icono_xembed() { [ -n "$(icono_xembed)" ]; }
+
+# barra_sn EDGE: a bar whose one thing is a StatusNotifier host. EDGE is xfce4-panel's number of an
+# edge (6 the top, 8 the bottom).
+barra_sn() {
+  local canal=$casa/.config/xfce4/xfconf/xfce-perchannel-xml
+  mkdir -p "$canal"
+  cat >"$canal/xfce4-panel.xml" <<FIN
+<?xml version="1.0" encoding="UTF-8"?>
+<channel name="xfce4-panel" version="1.0">
+  <property name="configver" type="int" value="2"/>
+  <property name="panels" type="array">
+    <value type="int" value="1"/>
+    <property name="panel-1" type="empty">
+      <property name="position" type="string" value="p=$1;x=0;y=0"/>
+      <property name="output-name" type="string" value="Automatic"/>
+      <property name="position-locked" type="bool" value="true"/>
+      <property name="length" type="uint" value="100"/>
+      <property name="size" type="uint" value="26"/>
+      <property name="plugin-ids" type="array"><value type="int" value="1"/></property>
+    </property>
+  </property>
+  <property name="plugins" type="empty">
+    <property name="plugin-1" type="string" value="systray"/>
+  </property>
+</channel>
+FIN
+  NO_AT_BRIDGE=1 arranca barra xfce4-panel --disable-wm-check
+  barra=$ultimo
+  espera tiene_nombre org.kde.StatusNotifierWatcher
+}
+# The host's own window; it is as wide as its icons.
+casilla_sn() {
+  local cada
+  for cada in $(xdotool search --onlyvisible --class '^wrapper-2.0$' 2>/dev/null); do
+    [ "$(lugar "$cada" | cut -d' ' -f3)" -gt 12 ] && echo "$cada" && return 0
+  done
+  return 1
+}
+hay_icono_sn() { casilla_sn >/dev/null; }
+# The menu that the host draws, which is ours.
+menu_sn() {
+  local cada alto
+  for cada in $(xdotool search --onlyvisible --class '^wrapper-2.0$' 2>/dev/null); do
+    read -r _ _ _ alto < <(lugar "$cada")
+    [ "$alto" -gt 40 ] && echo "$cada" && return 0
+  done
+  return 1
+}
+quita_barra_sn() {
+  kill "$barra"
+  espera terminado "$barra"
+  espera no tiene_nombre org.kde.StatusNotifierWatcher
+}
+# The items that the host knows: the bus name and the path of each.
+elementos_sn() {
+  dbus-send --session --print-reply --dest=org.kde.StatusNotifierWatcher /StatusNotifierWatcher \
+    org.freedesktop.DBus.Properties.Get string:org.kde.StatusNotifierWatcher string:RegisteredStatusNotifierItems |
+    sed -nE 's/.*string "([^"]*)".*/\1/p'
+}
 
 # copiado_es N: Control+C copies the identifier of the sample's session N.
 copiado_es() {

@@ -1,11 +1,8 @@
 #include "ZorveApp/Qt/ElementoDeBarra.h"
 
 #include <QCursor>
-#include <QDBusConnection>
-#include <QDBusConnectionInterface>
-#include <QDBusServiceWatcher>
 #include <QGuiApplication>
-#include <algorithm>
+#include <QTimer>
 #include <chrono>
 #include <utility>
 
@@ -19,29 +16,6 @@ namespace {
 
 /// An embedded icon knows its place, and its bar is painted, after this long.
 constexpr std::chrono::milliseconds esperaDeLaBarra{400};
-constexpr std::chrono::milliseconds primerReintento{250};
-constexpr std::chrono::milliseconds ultimoReintento{60'000};
-
-QString anfitrionDeNotificadores() { return QStringLiteral("org.kde.StatusNotifierWatcher"); }
-
-bool hayAnfitrionDeNotificadores() {
-  auto const bus = QDBusConnection::sessionBus();
-  return bus.isConnected() && bus.interface()->isServiceRegistered(anfitrionDeNotificadores());
-}
-
-bool hayBandejaDeX11() {
-  auto* const conexion = X11::conexion();
-  return conexion && X11::duenoDe(conexion, "_NET_SYSTEM_TRAY_S0") != 0;
-}
-
-/// Desktops whose trays answer a single click with the menu.
-bool soloMuestraMenus() {
-  auto const escritorio = qEnvironmentVariable("XDG_CURRENT_DESKTOP").toLower();
-  auto const partes = escritorio.split(u':');
-  return std::ranges::any_of(partes, [](QString const& parte) {
-    return parte == u"gnome" || parte == u"unity" || parte == u"ubuntu" || parte == u"pantheon";
-  });
-}
 
 /// What the tray of X11 says of its foreground: red, green and blue first, 16 bits each.
 std::optional<bool> barraClaraSegunX11() {
@@ -67,27 +41,19 @@ std::optional<bool> barraClaraBajo(QRect const& icono) {
 
 ElementoDeBarra::ElementoDeBarra(Acciones acciones, QObject* padre)
     : QObject{padre}, acciones_{std::move(acciones)} {
-  reintento_.setSingleShot(true);
-  connect(&reintento_, &QTimer::timeout, this, &ElementoDeBarra::intentar);
+  connect(&vigia_, &VigiaDeBandejas::llego, this, &ElementoDeBarra::alLlegarUnaBandeja);
 }
 
-void ElementoDeBarra::aparecer() {
-  reintento_.setInterval(primerReintento);
+void ElementoDeBarra::aparecer() { intentar(); }
+
+void ElementoDeBarra::alLlegarUnaBandeja() {
+  escribirMenu();
   intentar();
-  if (puesto() || !QDBusConnection::sessionBus().isConnected()) return;
-  auto* const vigia = new QDBusServiceWatcher{anfitrionDeNotificadores(), QDBusConnection::sessionBus(),
-                                              QDBusServiceWatcher::WatchForRegistration, this};
-  connect(vigia, &QDBusServiceWatcher::serviceRegistered, this, &ElementoDeBarra::intentar);
+  QTimer::singleShot(esperaDeLaBarra, this, &ElementoDeBarra::vestir);
 }
 
 void ElementoDeBarra::intentar() {
-  if (puesto()) return;
-  if (!hayAnfitrionDeNotificadores() && !hayBandejaDeX11()) {
-    auto const espera = reintento_.intervalAsDuration() * 2;
-    reintento_.setInterval(espera);
-    if (espera < ultimoReintento) reintento_.start();
-    return;
-  }
+  if (puesto() || !VigiaDeBandejas::hay()) return;
   icono_ = std::make_unique<QSystemTrayIcon>();
   icono_->setToolTip(QStringLiteral("Zorve"));
   icono_->setContextMenu(&menu_);
@@ -109,12 +75,17 @@ void ElementoDeBarra::escribirBarraClara(bool clara) {
 }
 
 void ElementoDeBarra::ponerMenu(std::array<EntradaDelMenu, 3> const& entradas) {
+  entradas_ = entradas;
+  escribirMenu();
+}
+
+void ElementoDeBarra::escribirMenu() {
   menu_.clear();
-  if (soloMuestraMenus()) {
+  if (VigiaDeBandejas::soloMuestraMenus()) {
     connect(menu_.addAction(QStringLiteral("Zorve")), &QAction::triggered, this,
             [this] { acciones_.abrir(); });
   }
-  for (auto const& [clase, titulo, tecla] : entradas) {
+  for (auto const& [clase, titulo, tecla] : entradas_) {
     if (clase == EntradaDelMenu::Clase::separador) {
       menu_.addSeparator();
       continue;

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <QMenu>
 #include <QObject>
 #include <QSystemTrayIcon>
-#include <QTimer>
 #include <array>
 #include <functional>
 #include <memory>
@@ -11,6 +9,8 @@
 
 #include "ZorveApp/ItemDeEstado.h"
 #include "ZorveApp/Qt/Colocacion.h"
+#include "ZorveApp/Qt/MenuDeBarra.h"
+#include "ZorveApp/Qt/VigiaDeBandejas.h"
 
 namespace zorve {
 
@@ -32,8 +32,8 @@ class ElementoDeBarra final : public QObject {
   void aparecer();
   [[nodiscard]] bool puesto() const { return icono_ != nullptr; }
 
-  /// The menu's entries from now on. Where a host opens menus on every click it begins with one that opens
-  /// the panel.
+  /// The menu's entries from now on. Where a host opens the menu on a single click it begins with one that
+  /// opens the panel.
   void ponerMenu(std::array<EntradaDelMenu, 3> const& entradas);
   /// Opens the menu at the pointer.
   void abrirMenu();
@@ -44,14 +44,17 @@ class ElementoDeBarra final : public QObject {
   [[nodiscard]] std::optional<Ancla> ancla() const;
 
  private:
+  void alLlegarUnaBandeja();
   void intentar();
   void vestir();
+  void escribirMenu();
   void alActivar(QSystemTrayIcon::ActivationReason razon);
 
   Acciones acciones_;
-  QMenu menu_;
+  VigiaDeBandejas vigia_;
+  MenuDeBarra menu_;
+  std::array<EntradaDelMenu, 3> entradas_;
   std::unique_ptr<QSystemTrayIcon> icono_;
-  QTimer reintento_;
   bool barraClara_ = false;
   std::optional<Ancla> ultimoClic_;
 };

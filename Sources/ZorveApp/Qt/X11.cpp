@@ -14,11 +14,23 @@ xcb_window_t raiz(xcb_connection_t* conexion) {
   return xcb_setup_roots_iterator(xcb_get_setup(conexion)).data->root;
 }
 
-xcb_atom_t atomo(xcb_connection_t* conexion, QByteArray const& nombre) {
-  auto const pedido =
-      xcb_intern_atom(conexion, 1, static_cast<std::uint16_t>(nombre.size()), nombre.constData());
+namespace {
+
+xcb_atom_t interno(xcb_connection_t* conexion, QByteArray const& nombre, bool soloSiExiste) {
+  auto const pedido = xcb_intern_atom(conexion, soloSiExiste ? 1 : 0,
+                                      static_cast<std::uint16_t>(nombre.size()), nombre.constData());
   Respuesta<xcb_intern_atom_reply_t> const respuesta{xcb_intern_atom_reply(conexion, pedido, nullptr)};
   return respuesta ? respuesta->atom : 0;
+}
+
+}  // namespace
+
+xcb_atom_t atomo(xcb_connection_t* conexion, QByteArray const& nombre) {
+  return interno(conexion, nombre, true);
+}
+
+xcb_atom_t atomoNuevo(xcb_connection_t* conexion, QByteArray const& nombre) {
+  return interno(conexion, nombre, false);
 }
 
 xcb_window_t duenoDe(xcb_connection_t* conexion, QByteArray const& seleccion) {

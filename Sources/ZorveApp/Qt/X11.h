@@ -25,6 +25,8 @@ using Respuesta = std::unique_ptr<T, Liberar>;
 
 /// 0 for a name that nobody has used on this server.
 [[nodiscard]] xcb_atom_t atomo(xcb_connection_t* conexion, QByteArray const& nombre);
+/// Makes the name known to the server if nobody has.
+[[nodiscard]] xcb_atom_t atomoNuevo(xcb_connection_t* conexion, QByteArray const& nombre);
 [[nodiscard]] xcb_window_t duenoDe(xcb_connection_t* conexion, QByteArray const& seleccion);
 
 /// The 32-bit items of a property; empty when it is absent or of another width.
