@@ -166,7 +166,9 @@ std::expected<std::string, int> ArchivosDeMemoria::resolver(std::string const& r
   for (int saltos = 0; !partes.empty();) {
     auto const parte = std::exchange(partes.front(), {});
     partes.pop_front();
-    auto const nodo = nodos_.find(hasta + '/' + parte);
+    auto candidata = hasta;
+    candidata.append("/").append(parte);
+    auto const nodo = nodos_.find(candidata);
     if (nodo == nodos_.end()) return std::unexpected{ENOENT};
     auto const clase = nodo->second->clase;
     if (clase == ClaseDeArchivo::enlace && (seguirElUltimo || !partes.empty())) {

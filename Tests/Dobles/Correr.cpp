@@ -29,7 +29,7 @@ std::vector<std::string> entornoCon(std::map<std::string, std::string> const& ca
     if (!cambios.contains(std::string{texto.substr(0, texto.find('='))})) todo.emplace_back(texto);
   }
   for (auto const& [nombre, valor] : cambios) {
-    if (!valor.empty()) todo.push_back(nombre + "=" + valor);
+    if (!valor.empty()) todo.emplace_back(nombre).append("=").append(valor);
   }
   return todo;
 }

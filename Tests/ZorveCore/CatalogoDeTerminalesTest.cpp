@@ -38,6 +38,7 @@ class CatalogoDeTerminalesTest : public testing::Test {
 
 std::vector<std::string> nombres(std::vector<TerminalRef> const& terminales) {
   std::vector<std::string> resultado;
+  resultado.reserve(terminales.size());
   for (auto const& terminal : terminales) resultado.push_back(terminal->nombre());
   return resultado;
 }

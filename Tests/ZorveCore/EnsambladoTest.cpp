@@ -21,9 +21,9 @@ Transcript transcripcion(std::string id, double mtime, std::optional<std::string
       .sessionId = std::move(id), .mtime = en(mtime), .aiTitle = std::move(titulo), .cwd = std::move(cwd)};
 }
 
-EntradasDeHistoria historiaDe(std::vector<HistoryEntry> entradas) {
+EntradasDeHistoria historiaDe(std::vector<HistoryEntry> const& entradas) {
   EntradasDeHistoria mapa;
-  for (auto& una : entradas) mapa.emplace(una.sessionId, una);
+  for (auto const& una : entradas) mapa.emplace(una.sessionId, una);
   return mapa;
 }
 
@@ -136,6 +136,7 @@ TEST(Ensamblado, lasMasRecientesVanPrimeroYLosEmpatesPorIdentificador) {
                                               transcripcion("a", 5), transcripcion("z", 6)},
                               {}, {});
   std::vector<std::string> orden;
+  orden.reserve(resultado.sesiones.size());
   for (auto const& sesion : resultado.sesiones) orden.push_back(sesion.id());
   EXPECT_EQ(orden, (std::vector<std::string>{"claude:z", "claude:B", "claude:a", "claude:c"}));
 }

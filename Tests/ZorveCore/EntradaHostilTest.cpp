@@ -21,7 +21,6 @@
 namespace zorve {
 namespace {
 
-using ::testing::IsEmpty;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
 

@@ -15,7 +15,6 @@ namespace {
 
 using dobles::EjecutorGuionado;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::SizeIs;
 
 constexpr char const* enITerm = "/Applications/iTerm.app/Contents/MacOS/iTerm2";

@@ -69,8 +69,9 @@ TEST(Lineas, seLeeDe64EnKiBHastaQueNadaLlega) {
 TEST(Lineas, unaLineaPartidaEntreLecturasSeDaEntera) {
   for (std::size_t const largo : {65'535UL, 65'536UL, 65'537UL, 131'072UL, 400'000UL}) {
     std::string const larga(largo, 'x');
-    EXPECT_THAT(partir("a\n" + larga + "\nb"), ElementsAre("a", larga, "b")) << largo;
-    EXPECT_THAT(partir(larga + "\n" + larga), ElementsAre(larga, larga)) << largo;
+    EXPECT_THAT(partir(std::string{"a\n"}.append(larga).append("\nb")), ElementsAre("a", larga, "b"))
+        << largo;
+    EXPECT_THAT(partir(std::string{larga}.append("\n").append(larga)), ElementsAre(larga, larga)) << largo;
   }
 }
 
