@@ -7,6 +7,8 @@ if [ -n "$4" ]; then
   HOME=$4
   export HOME
 fi
+# Of the terminal's window, not of what its shell starts.
+unset DESKTOP_STARTUP_ID XDG_ACTIVATION_TOKEN
 CDPATH='' cd -- "$1" && ZORVE_ORDEN=$2 || ZORVE_ORDEN=
 ZORVE_SHELL=$3
 export ZORVE_ORDEN

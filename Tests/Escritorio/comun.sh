@@ -33,7 +33,7 @@ cuenta_lo_visto() {
   echo "--- windows" >&2
   xwininfo -root -tree 2>/dev/null | grep -E '"|[0-9]+x[0-9]+' | head -n 40 >&2 || :
   echo "--- what zorve wrote" >&2
-  cat "$casa"/zorve.err >&2 || :
+  tail -n 40 "$casa"/zorve.err >&2 || :
   if [ -n "${ZORVE_FOTOS:-}" ]; then import -window root "$ZORVE_FOTOS/$(basename "$0" .sh).png" || :; fi
 }
 
@@ -84,17 +84,21 @@ bus() {
 escritorio() {
   local clase=${1:-lista}
   [ $# -eq 0 ] || shift
+  hogar "$clase"
+  servidor "$@"
+  bus
+  gestor
+}
+
+# hogar KIND: the made-up home, and an environment that knows no other.
+hogar() {
   mkdir -p "$casa/run" "$casa/.config/com.sarnol.zorve"
   chmod 700 "$casa/run"
   export HOME=$casa XDG_CONFIG_HOME=$casa/.config XDG_RUNTIME_DIR=$casa/run XDG_DATA_HOME=$casa/.local/share
-  unset XDG_CURRENT_DESKTOP WAYLAND_DISPLAY LC_ALL
+  unset XDG_CURRENT_DESKTOP XDG_SESSION_TYPE WAYLAND_DISPLAY LC_ALL
   export LANG=C.UTF-8
-  # What the bus starts has this home too.
-  servidor "$@"
-  bus
-  "$raiz/Scripts/casa-de-muestra.sh" "$casa" $$ "$clase"
+  "$raiz/Scripts/casa-de-muestra.sh" "$casa" $$ "$1"
   preferencias '{"app.zorve.panelMostradoEnPrimerArranque":true,"zorve.avisoDeBandejaMostrado":true}'
-  gestor
 }
 
 hay_gestor() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }

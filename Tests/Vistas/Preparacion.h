@@ -16,7 +16,8 @@ class Preparacion final : public QObject {
   void qmlEngineAvailable(QQmlEngine* motor) {
     registrarDibujos();
     motor->addImportPath(QStringLiteral("qrc:/"));
-    motor->rootContext()->setContextProperty(QStringLiteral("estilo"), estiloParaQml(false));
+    motor->rootContext()->setContextProperty(QStringLiteral("estilo"),
+                                             estiloParaQml({.conMovimiento = false}));
   }
 };
 

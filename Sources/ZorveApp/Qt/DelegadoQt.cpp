@@ -72,13 +72,13 @@ VentanaDelPanel& DelegadoQt::ventana() {
   connect(ventana_.get(), &VentanaDelPanel::escondida, &minutero_, &QTimer::stop);
   connect(ventana_.get(), &VentanaDelPanel::escondida, &reposo_, qOverload<>(&QTimer::start));
   ventana_->rootContext()->setContextProperty(QStringLiteral("panel"), &puente_);
-  ventana_->rootContext()->setContextProperty(QStringLiteral("estilo"),
-                                              estiloParaQml(gustos_.conMovimiento()));
+  ventana_->rootContext()->setContextProperty(QStringLiteral("estilo"), estiloParaQml(gustos_.dePantalla()));
   ventana_->preparar();
   return *ventana_;
 }
 
 void DelegadoQt::avisarSiNoHayBandeja() {
+  con_.activacion.agotar();
   if (barra_.puesto() || con_.banderas.bandera(banderaSinBandeja)) return;
   con_.banderas.marcar(banderaSinBandeja);
   puente_.escribirAvisoPropio(avisoSinBandeja(*con_.idioma.idioma()));
@@ -91,12 +91,17 @@ void DelegadoQt::escribirMenu() { barra_.ponerMenu(menuDelItem(Textos{*con_.idio
 
 void DelegadoQt::atenderGustos() {
   barra_.escribirBarraClara(gustos_.claro());
-  ventana().exigirOpaco(gustos_.altoContraste());
-  ventana().rootContext()->setContextProperty(QStringLiteral("estilo"),
-                                              estiloParaQml(gustos_.conMovimiento()));
+  auto const& gustos = gustos_.dePantalla();
+  ventana().exigirOpaco(gustos.altoContraste);
+  ventana().rootContext()->setContextProperty(QStringLiteral("estilo"), estiloParaQml(gustos));
+  ventana().escribirEscala(gustos.escala);
+  if (ventanaDeAjustes_) ventanaDeAjustes_->vestir(gustos);
 }
 
-void DelegadoQt::reabrir() { item_.reabrir(); }
+void DelegadoQt::reabrir(Testigo testigo) {
+  con_.activacion.recibir(std::move(testigo));
+  item_.reabrir();
+}
 
 void DelegadoQt::alClic(ClicEnLaBarra clic) {
   bool const quisoCerrar = !clic.derecho && !clic.conControl && ventana_ && ventana_->recienCerrada();
@@ -107,6 +112,7 @@ bool DelegadoQt::panelVisible() const { return ventana_ && ventana_->isVisible()
 
 void DelegadoQt::mostrarPanel() {
   ventana().mostrarEn(barra_.ancla());
+  con_.activacion.agotar();
   puente_.actualizarTiempos();
   minutero_.start();
   con_.panel.aparecer();
@@ -123,7 +129,9 @@ void DelegadoQt::mostrarMenu(std::array<EntradaDelMenu, 3> const& entradas) {
 
 void DelegadoQt::mostrarAjustes() {
   if (!ventanaDeAjustes_) {
-    ventanaDeAjustes_ = std::make_unique<VentanaDeAjustes>(con_.ajustes, con_.modeloDeAjustes, con_.idioma);
+    ventanaDeAjustes_ =
+        std::make_unique<VentanaDeAjustes>(con_.ajustes, con_.modeloDeAjustes, con_.idioma, con_.activacion);
+    ventanaDeAjustes_->vestir(gustos_.dePantalla());
   }
   ventanaDeAjustes_->mostrar();
 }

@@ -7,6 +7,7 @@
 #include "ZorveApp/ItemDeEstado.h"
 #include "ZorveApp/ModeloDeVista.h"
 #include "ZorveApp/PanelView.h"
+#include "ZorveApp/Qt/Activacion.h"
 #include "ZorveApp/Qt/ElementoDeBarra.h"
 #include "ZorveApp/Qt/Escritorio.h"
 #include "ZorveApp/Qt/GustosDelEscritorio.h"
@@ -26,6 +27,7 @@ struct ColaboradoresDelDelegado {
   PreferenciaDeIdioma const& idioma;
   Despachador& despachador;
   AlmacenDeBanderas& banderas;
+  Activacion& activacion;
 };
 
 /// The program on the desktop: tray icon, panel, settings, and what leads from one to the other.
@@ -38,8 +40,8 @@ class DelegadoQt final : public QObject, public CaraDelItem {
 
   /// Puts the icon up, then prepares the panel when the event loop has nothing else to do.
   void arrancar();
-  /// The program was started again, or asked for over the bus.
-  void reabrir();
+  /// The program was started again, or asked for over the bus, by `testigo`.
+  void reabrir(Testigo testigo);
 
   [[nodiscard]] bool panelVisible() const override;
   void mostrarPanel() override;

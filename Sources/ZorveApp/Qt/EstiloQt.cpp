@@ -38,7 +38,8 @@ constexpr std::array colores{Nombrado{"borde", Estilo::borde},
                              Nombrado{"fondoDeOpcion", Estilo::fondoDeOpcion},
                              Nombrado{"fondoDeBarraLateral", Estilo::fondoDeBarraLateral},
                              Nombrado{"haloDeEstado", Estilo::haloDeEstado},
-                             Nombrado{"aroInactivo", Estilo::aroInactivo}};
+                             Nombrado{"aroInactivo", Estilo::aroInactivo},
+                             Nombrado{"foco", Estilo::acento.con(0.8)}};
 
 constexpr std::array medidas{Medida{"ancho", Medidas::panel.ancho},
                              Medida{"alto", Medidas::panel.alto},
@@ -70,6 +71,22 @@ constexpr std::array letras{
     Medida{"letraDeRotulo", Medidas::letraDeRotulo},     Medida{"letraDeOpcion", Medidas::letraDeOpcion},
     Medida{"letraDeNota", Medidas::letraDeNota}};
 
+/// What differs under high contrast: no text fainter than the plain one, lines and outlines that are seen.
+constexpr std::array coloresConContraste{Nombrado{"borde", Color::blanco(0.7)},
+                                         Nombrado{"bordeSuperior", Color::blanco(0.7)},
+                                         Nombrado{"linea", Color::blanco(0.5)},
+                                         Nombrado{"lineaFila", Color::blanco(0.4)},
+                                         Nombrado{"filaSeleccionada", Estilo::acento.con(0.3)},
+                                         Nombrado{"texto", Estilo::textoAlto},
+                                         Nombrado{"textoTenue", Estilo::textoAlto},
+                                         Nombrado{"textoDebil", Estilo::texto},
+                                         Nombrado{"contornoDeFila", Estilo::acento},
+                                         Nombrado{"fondoDeError", Estilo::error.con(0.2)},
+                                         Nombrado{"fondoDeAviso", Estilo::acento.con(0.2)},
+                                         Nombrado{"fondoDeTecla", Color::blanco(0.2)},
+                                         Nombrado{"aroInactivo", Estilo::texto},
+                                         Nombrado{"foco", Color::blanco(1)}};
+
 /// Font points in one pixel of a screen at scale 1.
 double puntosPorPixel() { return 72 / QGuiApplication::primaryScreen()->logicalDotsPerInchY(); }
 
@@ -77,13 +94,17 @@ QString clave(char const* nombre) { return QString::fromLatin1(nombre); }
 
 }  // namespace
 
-QVariantMap estiloParaQml(bool conMovimiento) {
+QVariantMap estiloParaQml(GustosDePantalla const& gustos) {
   QVariantMap todo;
   for (auto const& [nombre, color] : colores) todo.insert(clave(nombre), aQColor(color));
+  if (gustos.altoContraste) {
+    for (auto const& [nombre, color] : coloresConContraste) todo.insert(clave(nombre), aQColor(color));
+  }
   for (auto const& [nombre, medida] : medidas) todo.insert(clave(nombre), medida);
   auto const puntos = puntosPorPixel();
   for (auto const& [nombre, medida] : letras) todo.insert(clave(nombre), medida * puntos);
-  todo.insert(clave("transicion"), conMovimiento ? static_cast<int>(Medidas::transicion * 1000) : 0);
+  todo.insert(clave("transicion"), gustos.conMovimiento ? static_cast<int>(Medidas::transicion * 1000) : 0);
+  todo.insert(clave("escala"), gustos.escala);
   todo.insert(clave("fija"), QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
   return todo;
 }

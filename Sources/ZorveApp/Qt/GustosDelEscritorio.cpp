@@ -4,6 +4,9 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <algorithm>
+
+#include "ZorveApp/Qt/X11.h"
 
 namespace zorve {
 
@@ -14,6 +17,12 @@ constexpr auto ruta = "/org/freedesktop/portal/desktop";
 constexpr auto interfaz = "org.freedesktop.portal.Settings";
 constexpr auto apariencia = "org.freedesktop.appearance";
 constexpr auto gnome = "org.gnome.desktop.interface";
+constexpr auto accesibilidad = "org.gnome.desktop.a11y.interface";
+constexpr double escalaMinima = 0.5;
+constexpr double escalaMaxima = 3;
+
+/// On X11 the desktop writes the same factor into the server's resources, by which the toolkit enlarges all.
+bool escalaElTexto() { return X11::conexion() == nullptr; }
 
 /// Read wraps its answer in one variant more than it should.
 QVariant desnudo(QVariant valor) {
@@ -32,7 +41,10 @@ void GustosDelEscritorio::preguntar() {
               QStringLiteral("SettingChanged"), this, SLOT(alCambiar(QString, QString, QDBusVariant)));
   leer(apariencia, "color-scheme");
   leer(apariencia, "contrast");
+  leer(apariencia, "reduced-motion");
+  leer(accesibilidad, "high-contrast");
   leer(gnome, "enable-animations");
+  leer(gnome, "text-scaling-factor");
 }
 
 void GustosDelEscritorio::leer(char const* espacio, char const* clave) {
@@ -56,11 +68,18 @@ void GustosDelEscritorio::alCambiar(QString const& espacio, QString const& clave
 
 void GustosDelEscritorio::anotar(QString const& espacio, QString const& clave, QVariant const& valor) {
   constexpr unsigned prefiereClaro = 2;
-  bool const deApariencia = espacio == QLatin1String{apariencia};
-  if (deApariencia && clave == QLatin1String{"color-scheme"}) claro_ = valor.toUInt() == prefiereClaro;
-  if (deApariencia && clave == QLatin1String{"contrast"}) altoContraste_ = valor.toUInt() == 1;
-  if (espacio == QLatin1String{gnome} && clave == QLatin1String{"enable-animations"}) {
-    conMovimiento_ = valor.toBool();
+  auto const es = [&](char const* cualEspacio, char const* cualClave) {
+    return espacio == QLatin1String{cualEspacio} && clave == QLatin1String{cualClave};
+  };
+  if (es(apariencia, "color-scheme")) claro_ = valor.toUInt() == prefiereClaro;
+  if (es(apariencia, "contrast")) contraste_[0] = valor.toUInt() == 1;
+  if (es(accesibilidad, "high-contrast")) contraste_[1] = valor.toBool();
+  if (es(apariencia, "reduced-motion")) quietud_[0] = valor.toUInt() == 1;
+  if (es(gnome, "enable-animations")) quietud_[1] = !valor.toBool();
+  dePantalla_.altoContraste = contraste_[0] || contraste_[1];
+  dePantalla_.conMovimiento = !quietud_[0] && !quietud_[1];
+  if (es(gnome, "text-scaling-factor") && escalaElTexto()) {
+    dePantalla_.escala = std::clamp(valor.toDouble(), escalaMinima, escalaMaxima);
   }
   Q_EMIT cambio();
 }

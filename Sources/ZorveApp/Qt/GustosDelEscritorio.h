@@ -2,6 +2,9 @@
 
 #include <QDBusVariant>
 #include <QObject>
+#include <array>
+
+#include "ZorveApp/Qt/EstiloQt.h"
 
 namespace zorve {
 
@@ -17,8 +20,7 @@ class GustosDelEscritorio final : public QObject {
   void preguntar();
 
   [[nodiscard]] bool claro() const { return claro_; }
-  [[nodiscard]] bool altoContraste() const { return altoContraste_; }
-  [[nodiscard]] bool conMovimiento() const { return conMovimiento_; }
+  [[nodiscard]] GustosDePantalla const& dePantalla() const { return dePantalla_; }
 
  Q_SIGNALS:
   void cambio();
@@ -31,8 +33,10 @@ class GustosDelEscritorio final : public QObject {
   void anotar(QString const& espacio, QString const& clave, QVariant const& valor);
 
   bool claro_ = false;
-  bool altoContraste_ = false;
-  bool conMovimiento_ = true;
+  /// What the portal's own setting says, and GNOME's: either is enough.
+  std::array<bool, 2> contraste_{};
+  std::array<bool, 2> quietud_{};
+  GustosDePantalla dePantalla_;
 };
 
 }  // namespace zorve

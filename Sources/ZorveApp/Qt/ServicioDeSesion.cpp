@@ -14,19 +14,19 @@ constexpr int plazo = 5000;
 QString nombre() { return QStringLiteral("com.sarnol.zorve"); }
 QString ruta() { return QStringLiteral("/com/sarnol/zorve"); }
 
-void pedirQueSeMuestre(QDBusConnection const& bus) {
+void pedirQueSeMuestre(QDBusConnection const& bus, Testigo const& testigo) {
   auto pedido = QDBusMessage::createMethodCall(
       nombre(), ruta(), QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
-  pedido << QVariantMap{};
+  pedido << testigo.datosDePlataforma();
   bus.call(pedido, QDBus::Block, plazo);
 }
 
 }  // namespace
 
-ServicioDeSesion::ServicioDeSesion(std::function<void()> alActivar, QObject* padre)
+ServicioDeSesion::ServicioDeSesion(std::function<void(Testigo)> alActivar, QObject* padre)
     : QObject{padre}, alActivar_{std::move(alActivar)} {}
 
-ServicioDeSesion::Turno ServicioDeSesion::ocupar() {
+ServicioDeSesion::Turno ServicioDeSesion::ocupar(Testigo const& testigo) {
   auto bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return Turno::sinBus;
   bus.registerObject(ruta(), this, QDBusConnection::ExportScriptableSlots);
@@ -34,7 +34,7 @@ ServicioDeSesion::Turno ServicioDeSesion::ocupar() {
       nombre(), QDBusConnectionInterface::DontQueueService, QDBusConnectionInterface::DontAllowReplacement);
   if (respuesta.value() == QDBusConnectionInterface::ServiceRegistered) return Turno::primero;
   bus.unregisterObject(ruta());
-  pedirQueSeMuestre(bus);
+  pedirQueSeMuestre(bus, testigo);
   return Turno::segundo;
 }
 
@@ -45,6 +45,8 @@ void ServicioDeSesion::soltar() {
   bus.unregisterService(nombre());
 }
 
-void ServicioDeSesion::Activate(QVariantMap const& /*datosDePlataforma*/) { alActivar_(); }
+void ServicioDeSesion::Activate(QVariantMap const& datosDePlataforma) {
+  alActivar_(Testigo::de(datosDePlataforma));
+}
 
 }  // namespace zorve

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <functional>
 
+#include "ZorveApp/Qt/Testigo.h"
+
 namespace zorve {
 
 /// The program's place on the session bus: the name com.sarnol.zorve and
@@ -20,10 +22,11 @@ class ServicioDeSesion final : public QObject {
     sinBus,   ///< there is no session bus; nobody can be asked
   };
 
-  explicit ServicioDeSesion(std::function<void()> alActivar, QObject* padre = nullptr);
+  /// `alActivar` gets the caller's leave to come to the front.
+  explicit ServicioDeSesion(std::function<void(Testigo)> alActivar, QObject* padre = nullptr);
 
-  /// Takes the name, or asks whoever has it to show its panel. Once.
-  [[nodiscard]] Turno ocupar();
+  /// Takes the name, or asks whoever has it to show its panel by `testigo`. Once.
+  [[nodiscard]] Turno ocupar(Testigo const& testigo);
   /// Gives the name back, so that a program started from now on is the first.
   void soltar();
 
@@ -32,7 +35,7 @@ class ServicioDeSesion final : public QObject {
   Q_SCRIPTABLE void Activate(QVariantMap const& datosDePlataforma);
 
  private:
-  std::function<void()> alActivar_;
+  std::function<void(Testigo)> alActivar_;
 };
 
 }  // namespace zorve

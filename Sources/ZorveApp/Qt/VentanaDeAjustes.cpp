@@ -8,6 +8,7 @@
 #include "ZorveApp/Qt/Conversiones.h"
 #include "ZorveApp/Qt/EstiloQt.h"
 #include "ZorveApp/Qt/IconoDeBarra.h"
+#include "ZorveApp/Qt/TamanoFijo.h"
 #include "ZorveApp/Qt/TeclasQt.h"
 #include "ZorveApp/Qt/X11.h"
 
@@ -30,35 +31,37 @@ void ponerClase(QWindow& ventana) {
 }  // namespace
 
 VentanaDeAjustes::VentanaDeAjustes(VistaAjustes& vista, ModeloDeAjustes& modelo,
-                                   PreferenciaDeIdioma const& idioma)
-    : vista_{vista}, puente_{vista, modelo, idioma} {
+                                   PreferenciaDeIdioma const& idioma, Activacion& activacion)
+    : vista_{vista}, puente_{vista, modelo, idioma}, activacion_{activacion} {
   setTitle(aQString(VistaAjustes::tituloDeLaVentana));
   setFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint);
   setIcon(iconoDeLaAplicacion());
   setColor(aQColor(Estilo::tinteBase));
-  setMinimumSize(tamano);
-  setMaximumSize(tamano);
-  resize(tamano);
+  setResizeMode(QQuickView::SizeRootObjectToView);
+  vestir({});
 }
 
 VentanaDeAjustes::~VentanaDeAjustes() { setSource({}); }
 
+void VentanaDeAjustes::vestir(GustosDePantalla const& gustos) {
+  rootContext()->setContextProperty(QStringLiteral("estilo"), estiloParaQml(gustos));
+  fijarTamano(*this, tamano * gustos.escala);
+}
+
 void VentanaDeAjustes::construir() {
   if (status() != QQuickView::Null) return;
   rootContext()->setContextProperty(QStringLiteral("ajustes"), &puente_);
-  rootContext()->setContextProperty(QStringLiteral("estilo"), estiloParaQml(true));
   setSource(QUrl{QStringLiteral("qrc:/Zorve/Vistas/Ajustes.qml")});
   ponerClase(*this);
   auto const libre = screen()->availableGeometry();
-  setPosition(libre.center() - QPoint{tamano.width() / 2, tamano.height() / 2});
+  setPosition(libre.center() - QPoint{width() / 2, height() / 2});
 }
 
 void VentanaDeAjustes::mostrar() {
   construir();
   vista_.aparecer();
   show();
-  raise();
-  requestActivate();
+  activacion_.alFrente(*this);
 }
 
 void VentanaDeAjustes::keyPressEvent(QKeyEvent* evento) {

@@ -2,6 +2,8 @@
 
 #include <QQuickView>
 
+#include "ZorveApp/Qt/Activacion.h"
+#include "ZorveApp/Qt/EstiloQt.h"
 #include "ZorveApp/Qt/PuenteDeAjustes.h"
 
 namespace zorve {
@@ -12,9 +14,12 @@ class VentanaDeAjustes final : public QQuickView {
 
  public:
   /// Everything referenced outlives the window.
-  VentanaDeAjustes(VistaAjustes& vista, ModeloDeAjustes& modelo, PreferenciaDeIdioma const& idioma);
+  VentanaDeAjustes(VistaAjustes& vista, ModeloDeAjustes& modelo, PreferenciaDeIdioma const& idioma,
+                   Activacion& activacion);
   ~VentanaDeAjustes() override;
 
+  /// Colours and size for what the person asks of every window.
+  void vestir(GustosDePantalla const& gustos);
   /// Loads, and brings the window to the front with the keyboard; the first time in the middle of the screen.
   void mostrar();
 
@@ -26,6 +31,7 @@ class VentanaDeAjustes final : public QQuickView {
 
   VistaAjustes& vista_;
   PuenteDeAjustes puente_;
+  Activacion& activacion_;
 };
 
 }  // namespace zorve

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "ZorveApp/Estilo.h"
+#include "ZorveApp/Qt/TamanoFijo.h"
 #include "ZorveApp/Qt/TeclasQt.h"
 
 namespace zorve {
@@ -41,9 +42,7 @@ VentanaDelPanel::VentanaDelPanel(Escritorio& escritorio, std::function<bool(Puls
   setTitle(QStringLiteral("Zorve"));
   setColor(Qt::transparent);
   setResizeMode(QQuickView::SizeRootObjectToView);
-  setMinimumSize(tamanoDelPanel);
-  setMaximumSize(tamanoDelPanel);
-  resize(tamanoDelPanel);
+  escribirEscala(1);
   setPersistentGraphics(true);
   setPersistentSceneGraph(true);
   escritorio_.preparar(*this);
@@ -62,6 +61,8 @@ void VentanaDelPanel::exigirOpaco(bool si) {
   vestir();
 }
 
+void VentanaDelPanel::escribirEscala(double escala) { fijarTamano(*this, tamanoDelPanel * escala); }
+
 void VentanaDelPanel::vestir() {
   if (!rootObject()) return;
   rootObject()->setProperty("opaco", exigeOpaco_ || !escritorio_.hayTransparencia());
@@ -73,8 +74,7 @@ void VentanaDelPanel::colocarEn(std::optional<Ancla> const& ancla) {
   auto& pantalla = pantallaDe(ancla ? ancla->icono.center() : QCursor::pos());
   auto const libre = escritorio_.areaLibre(pantalla);
   setScreen(&pantalla);
-  setPosition(ancla ? colocar(tamanoDelPanel, *ancla, pantalla.geometry(), libre)
-                    : colocarSinAncla(tamanoDelPanel, libre));
+  setPosition(ancla ? colocar(size(), *ancla, pantalla.geometry(), libre) : colocarSinAncla(size(), libre));
 }
 
 void VentanaDelPanel::mostrarEn(std::optional<Ancla> const& ancla) {

@@ -29,6 +29,8 @@ class VentanaDelPanel final : public QQuickView {
   [[nodiscard]] bool recienCerrada() const;
   /// Square corners and solid glass even where windows can be translucent.
   void exigirOpaco(bool si);
+  /// How much larger than usual it is.
+  void escribirEscala(double escala);
 
  Q_SIGNALS:
   void escondida();

@@ -10,6 +10,7 @@
 
 #include "ZorveApp/Qt/DelegadoQt.h"
 #include "ZorveApp/Qt/DespachadorQt.h"
+#include "ZorveApp/Qt/EjecutorConTestigo.h"
 #include "ZorveApp/Qt/EstiloQt.h"
 #include "ZorveApp/Qt/PortapapelesQt.h"
 #include "ZorveApp/Qt/ServicioDeSesion.h"
@@ -32,6 +33,9 @@ namespace {
 
 using namespace zorve;
 
+/// A compositor that has not answered by then gives no leave.
+constexpr std::chrono::milliseconds esperaDelTestigo{300};
+
 std::string esteEjecutable() { return std::filesystem::read_symlink("/proc/self/exe").string(); }
 
 /// Beside the program, or under ../libexec.
@@ -51,15 +55,20 @@ std::optional<std::string> version(std::string const& ejecutable) {
 /// What the program runs with, the real thing behind every seam. Background tasks may outlive the event loop,
 /// so it is made once and never destroyed.
 struct Mundo {
-  explicit Mundo(std::string de)
-      : home{std::move(de)}, entorno{EntornoLinux::delProceso(home)}, ejecutable{esteEjecutable()} {}
+  Mundo(std::string de, std::vector<std::string> variables)
+      : home{std::move(de)},
+        entorno{EntornoLinux::delProceso(home)},
+        ejecutable{esteEjecutable()},
+        ejecutor{std::move(variables), rutaDelAyudante(ejecutable),
+                 [this] { return pedirDesdeOtroHilo(*activacion, esperaDelTestigo).variables(); }} {}
 
   std::string home;
   EntornoLinux entorno;
   std::string ejecutable;
   ArchivosPosix archivos;
   VidaDeProcesosPosix procesos;
-  EjecutorDeProcesos ejecutor;
+  std::unique_ptr<Activacion> activacion = activacionEnUso();
+  EjecutorConTestigo ejecutor;
   PortapapelesQt portapapeles;
   DespachadorQt despachador;
   AplicacionesLinux aplicaciones{entorno};
@@ -106,8 +115,8 @@ struct Programa {
                                    .despachador = mundo.despachador,
                                    .version = version(mundo.ejecutable)}};
   VistaAjustes ajustes{modeloDeAjustes, mundo.idioma, modificadorPrincipal};
-  DelegadoQt delegado{
-      {modelo, panel, estado, ajustes, modeloDeAjustes, mundo.idioma, mundo.despachador, mundo.banderas}};
+  DelegadoQt delegado{{modelo, panel, estado, ajustes, modeloDeAjustes, mundo.idioma, mundo.despachador,
+                       mundo.banderas, *mundo.activacion}};
 };
 
 /// Every load has a thread of its own: without bounds each would leave an arena of the allocator behind.
@@ -128,18 +137,20 @@ void nombrar() {
   QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
-int correr() {
+/// `testigo`: the leave that the program was started with; `entorno`: what its children get.
+int correr(Testigo const& testigo, std::vector<std::string> entorno) {
   Programa* programa = nullptr;
-  ServicioDeSesion servicio{[&] { programa->delegado.reabrir(); }};
-  if (servicio.ocupar() == ServicioDeSesion::Turno::segundo) return 0;
+  ServicioDeSesion servicio{[&](Testigo llamada) { programa->delegado.reabrir(std::move(llamada)); }};
+  if (servicio.ocupar(testigo) == ServicioDeSesion::Turno::segundo) return 0;
   auto const home = hogarDelUsuario();
   if (!home) {
     std::fprintf(stderr, "zorve: %s\n", home.error().c_str());
     return 1;
   }
   registrarDibujos();
-  Programa este{*new Mundo{*home}};
+  Programa este{*new Mundo{*home, std::move(entorno)}};
   programa = &este;
+  este.mundo.activacion->recibir(testigo);
   este.delegado.arrancar();
   auto const estado = QCoreApplication::exec();
   servicio.soltar();
@@ -153,10 +164,12 @@ int main(int cuantos, char** palabras) {
     std::fputs("zorve takes no arguments; zorvectl is its command line\n", stderr);
     return 2;
   }
+  auto const testigo = Testigo::tomarDelEntorno();
+  auto entorno = entornoDelProceso();
   acotarMemoria();
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
   QApplication const aplicacion{cuantos, palabras};
   nombrar();
-  return correr();
+  return correr(testigo, std::move(entorno));
 }

@@ -131,7 +131,8 @@ std::vector<char*> punteros(std::vector<std::string>& textos) {
   return resultado;
 }
 
-std::expected<Hijo, FalloDelSistema> lanzar(std::vector<std::string> palabras) {
+std::expected<Hijo, FalloDelSistema> lanzar(std::vector<std::string> palabras,
+                                            std::vector<std::string> entorno) {
   static std::mutex unoALaVez;
   std::scoped_lock const turno{unoALaVez};
   auto tubo = nuevoTubo();
@@ -142,7 +143,7 @@ std::expected<Hijo, FalloDelSistema> lanzar(std::vector<std::string> palabras) {
   Hijo hijo{0, std::move(tubo->lectura)};
   auto const ruta = palabras.front();
   int const codigo = ::posix_spawn(&hijo.pid, ruta.c_str(), acciones.puntero(), atributos.puntero(),
-                                   punteros(palabras).data(), environ);
+                                   punteros(palabras).data(), punteros(entorno).data());
   if (codigo != 0) return fallo(codigo);
   return hijo;
 }
@@ -170,6 +171,10 @@ bool tieneNul(std::string const& texto) { return texto.contains('\0'); }
 
 }  // namespace
 
+EjecutorDeProcesos::EjecutorDeProcesos() : EjecutorDeProcesos{entornoDelProceso()} {}
+
+EjecutorDeProcesos::EjecutorDeProcesos(std::vector<std::string> entorno) : entorno_{std::move(entorno)} {}
+
 std::expected<ResultadoDeEjecucion, FalloDelSistema> EjecutorDeProcesos::correr(
     std::string const& ruta, std::span<std::string const> args) const {
   if (tieneNul(ruta) || std::ranges::any_of(args, tieneNul)) {
@@ -177,12 +182,18 @@ std::expected<ResultadoDeEjecucion, FalloDelSistema> EjecutorDeProcesos::correr(
   }
   std::vector<std::string> palabras{ruta};
   palabras.insert(palabras.end(), args.begin(), args.end());
-  auto const hijo = lanzar(std::move(palabras));
+  auto const hijo = lanzar(std::move(palabras), entorno_);
   if (!hijo) return std::unexpected{hijo.error()};
   auto const salida = leerHastaElFin(hijo->lectura.numero());
   auto const codigo = esperar(hijo->pid);
   if (!codigo) return std::unexpected{codigo.error()};
   return ResultadoDeEjecucion{*codigo, conUtf8Valido(salida)};
+}
+
+std::vector<std::string> entornoDelProceso() {
+  std::vector<std::string> entorno;
+  for (char** variable = environ; *variable != nullptr; ++variable) entorno.emplace_back(*variable);
+  return entorno;
 }
 
 }  // namespace zorve

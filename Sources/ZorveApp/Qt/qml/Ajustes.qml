@@ -2,9 +2,11 @@ import QtQuick
 import Zorve.Dibujo
 
 // The settings: sections on the left, the chosen one's content on the right.
-FocusScope {
-    width: 620; height: 460
-    focus: true
+Escalado {
+    id: raiz
+
+    width: 620 * estilo.escala
+    height: 460 * estilo.escala
 
     Vidrio { anchors.fill: parent; densidad: 1 }
 
@@ -20,11 +22,23 @@ FocusScope {
     }
 
     Flickable {
+        id: area
+        objectName: "area"
         anchors { left: barra.right; leftMargin: 1; right: parent.right; top: parent.top; bottom: parent.bottom }
         contentHeight: contenido.height + 40
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
+
+        // The option that has the keyboard is in sight.
+        readonly property FilaDeOpcion enfocada: raiz.Window.activeFocusItem as FilaDeOpcion
+        onEnfocadaChanged: {
+            if (!enfocada) return
+            const arriba = enfocada.mapToItem(contenido, 0, 0).y + contenido.y - 20
+            const abajo = arriba + enfocada.height + 40
+            if (arriba < contentY) contentY = Math.max(0, arriba)
+            if (abajo > contentY + height) contentY = abajo - height
+        }
 
         Column {
             id: contenido
@@ -38,13 +52,14 @@ FocusScope {
                 texto: ajustes.banda
             }
             Repeater {
-                model: ajustes.grupos
+                // Counted, not listed: who has the keyboard keeps it when a value changes.
+                model: ajustes.grupos.length
                 delegate: GrupoDeOpciones {
-                    required property var modelData
                     required property int index
+                    readonly property var grupo: ajustes.grupos[index]
                     width: contenido.width
-                    titulo: modelData.titulo
-                    opciones: modelData.opciones
+                    titulo: grupo ? grupo.titulo : ""
+                    opciones: grupo ? grupo.opciones : []
                     onElegida: opcion => ajustes.clicEnOpcion(index, opcion)
                 }
             }

@@ -13,7 +13,7 @@ Rectangle {
 
     Timer {
         interval: Qt.styleHints.cursorFlashTime / 2
-        running: cursor.campo !== null && cursor.campo.activeFocus && interval > 0
+        running: cursor.campo !== null && cursor.campo.activeFocus && interval > 0 && estilo.transicion > 0
         repeat: true
         onTriggered: cursor.encendido = !cursor.encendido
         onRunningChanged: cursor.encendido = true

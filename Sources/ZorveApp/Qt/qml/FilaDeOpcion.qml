@@ -15,24 +15,29 @@ Rectangle {
     radius: estilo.radioDeOpcion
     color: marcada ? estilo.filaSeleccionada
                    : zona.pressed ? Qt.rgba(1, 1, 1, 0.09) : zona.containsMouse ? Qt.rgba(1, 1, 1, 0.065) : estilo.fondoDeOpcion
-    border { width: 1; color: marcada ? estilo.contornoDeFila : activeFocus ? estilo.acento : estilo.lineaFila }
+    border { width: 1; color: marcada ? estilo.contornoDeFila : estilo.lineaFila }
     activeFocusOnTab: true
     Keys.onSpacePressed: elegida()
+    Keys.onReturnPressed: elegida()
+    Keys.onEnterPressed: elegida()
     Accessible.role: cuadro ? Accessible.CheckBox : Accessible.RadioButton
     Accessible.name: titulo
     Accessible.description: nota
+    Accessible.focusable: true
     Accessible.checkable: true
     Accessible.checked: marcada
     Accessible.onPressAction: elegida()
+    Accessible.onToggleAction: elegida()
 
+    Foco {}
     Rectangle {
         id: marca
         x: 14
         anchors.verticalCenter: parent.verticalCenter
         width: estilo.ladoDeMarca; height: estilo.ladoDeMarca
         radius: fila.cuadro ? 4 : width / 2
-        color: fila.marcada ? estilo.acento : "transparent"
-        border { width: fila.marcada ? 0 : 1.5; color: estilo.textoDebil }
+        color: fila.marcada && fila.cuadro ? estilo.acento : "transparent"
+        border { width: fila.marcada && fila.cuadro ? 0 : 1.5; color: fila.marcada ? estilo.acento : estilo.textoDebil }
 
         Simbolo {
             anchors.centerIn: parent
@@ -44,9 +49,9 @@ Rectangle {
         }
         Rectangle {
             anchors.centerIn: parent
-            width: 6; height: 6; radius: 3
+            width: 8; height: 8; radius: 4
             visible: fila.marcada && !fila.cuadro
-            color: Qt.rgba(0.05, 0.09, 0.1, 1)
+            color: estilo.acento
         }
     }
 
@@ -61,6 +66,7 @@ Rectangle {
             maximumLineCount: 1
             font.pointSize: estilo.letraDeOpcion
             color: estilo.textoAlto
+            Accessible.ignored: true
         }
         Text {
             width: parent.width
@@ -71,6 +77,7 @@ Rectangle {
             maximumLineCount: 1
             font.pointSize: estilo.letraDeNota
             color: estilo.textoTenue
+            Accessible.ignored: true
         }
     }
 

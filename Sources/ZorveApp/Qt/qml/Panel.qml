@@ -2,15 +2,14 @@ import QtQuick
 import Zorve.Dibujo
 
 // The panel's bands, top to bottom. `panel` and `estilo` are its values; `opaco` asks for square, solid glass.
-FocusScope {
+Escalado {
     id: raiz
 
     property bool opaco: false
     property double densidad: 0.9
 
-    width: estilo.ancho
-    height: estilo.alto
-    focus: true
+    width: estilo.ancho * estilo.escala
+    height: estilo.alto * estilo.escala
 
     Vidrio {
         anchors.fill: parent

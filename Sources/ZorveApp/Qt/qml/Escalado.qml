@@ -1,0 +1,19 @@
+import QtQuick
+
+// A window's content, enlarged as the desktop's text is: the root is as large as the window, what stands in it
+// is laid out at its own size.
+FocusScope {
+    id: raiz
+
+    default property alias dentro: lienzo.data
+
+    focus: true
+
+    Item {
+        id: lienzo
+        width: raiz.width / estilo.escala
+        height: raiz.height / estilo.escala
+        scale: estilo.escala
+        transformOrigin: Item.TopLeft
+    }
+}
