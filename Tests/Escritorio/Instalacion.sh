@@ -30,7 +30,7 @@ xdotool key ctrl+comma
 espera ajustes
 clase=$(xprop -id "$(ajustes)" WM_CLASS)
 [ "$clase" = 'WM_CLASS(STRING) = "zorve", "com.sarnol.zorve"' ] || fallo "the window's class: $clase"
-xprop -id "$(ajustes)" _NET_WM_ICON | grep -q Icon || fallo "the window has no icon"
+xprop -id "$(ajustes)" _NET_WM_ICON | grep Icon >/dev/null || fallo "the window has no icon"
 
 # Another prefix with a character that the entry cannot hold is refused.
 ! cmake --install "$bin/.." --prefix "$casa/a\$b" >/dev/null 2>"$casa/rechazo" || fallo "a prefix with a dollar was taken"
