@@ -18,7 +18,7 @@ using Palabras = std::vector<std::string>;
 /// A desktop with one tmux server, whose panes hold sessions that write down the lines they are typed.
 class ConTmux : public testing::Test {
  protected:
-  ~ConTmux() override {
+  void TearDown() override {
     for (auto const pid : parados) ::kill(pid, SIGCONT);
   }
 
@@ -54,6 +54,7 @@ class ConTmux : public testing::Test {
   }
   [[nodiscard]] std::vector<std::string> teclas() const {
     std::vector<std::string> todas;
+    todas.reserve(panes.size());
     for (auto const& uno : panes) {
       todas.push_back(leerArchivoDePrueba(escritorio.casa().dentro("teclas/" + std::to_string(uno.pid))));
     }
