@@ -15,7 +15,8 @@ namespace zorve::dobles {
   for (std::size_t i = 0; i < literal.size(); ++i) {
     if (literal[i] == '"') return std::nullopt;
     if (literal[i] == '\\') {
-      if (++i == literal.size() || (literal[i] != '\\' && literal[i] != '"')) return std::nullopt;
+      ++i;
+      if (i == literal.size() || (literal[i] != '\\' && literal[i] != '"')) return std::nullopt;
     }
     texto += literal[i];
   }

@@ -177,9 +177,10 @@ TEST(RegistroJson, numerosSinMedidaEnClavesQueNadieLeeNoEstorban) {
   for (auto const& grande : {std::string{"1e999"}, std::string{"-1e999"}, std::string(400, '7'),
                              "-" + std::string(400, '7'), std::string{"18446744073709551616"},
                              "1." + std::string(5000, '3') + "e+400", std::string(400, '7') + ".5"}) {
-    EXPECT_EQ(texto(R"({"x":)" + grande + R"(,"a":"1e999 \" 1e999","y":[)" + grande + "," + grande + "]}"),
-              "1e999 \" 1e999")
-        << grande;
+    std::string registro = R"({"x":)";
+    registro.append(grande).append(R"(,"a":"1e999 \" 1e999","y":[)");
+    registro.append(grande).append(",").append(grande).append("]}");
+    EXPECT_EQ(texto(registro), "1e999 \" 1e999") << grande;
   }
 }
 

@@ -180,6 +180,7 @@ TEST(EjecutorDeProcesos, variosALaVezNoSeEsperanUnosAOtros) {
 
 TEST(EjecutorDeProcesos, muchosHilosRecibenCadaUnoLoSuyo) {
   std::vector<std::future<std::string>> corridas;
+  corridas.reserve(16);
   for (int i = 0; i < 16; ++i) {
     corridas.push_back(std::async(std::launch::async, [i] { return salidaDe("echo " + std::to_string(i)); }));
   }

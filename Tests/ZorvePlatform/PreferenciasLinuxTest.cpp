@@ -229,6 +229,7 @@ TEST_F(PreferenciasLinuxTest, escritoresALaVezNoPierdenClaves) {
     }
   };
   std::vector<std::thread> trabajos;
+  trabajos.reserve(hilos);
   for (int hilo = 0; hilo < hilos; ++hilo) trabajos.emplace_back(escribirLasDe, hilo);
   for (auto& trabajo : trabajos) trabajo.join();
   for (int hilo = 0; hilo < hilos; ++hilo) {

@@ -13,7 +13,7 @@ namespace {
 
 std::string const propio = std::to_string(::getpid());
 
-Hogar const& conDosSesiones(Hogar const& hogar) {
+void conDosSesiones(Hogar const& hogar) {
   hogar.transcripcion(Hogar::uno, R"({"type":"user","cwd":"/t"})"
                                   "\n" +
                                       aiTitle("Arreglar el menú"));
@@ -21,7 +21,6 @@ Hogar const& conDosSesiones(Hogar const& hogar) {
   hogar.historia(prompt(Hogar::uno, "primero", "/srv/uno", 1'700'000'000'000) +
                  prompt(Hogar::uno, "el último", "/srv/uno", 1'700'000'000'250) +
                  prompt(Hogar::dos, "  otra\\n cosa ", "/srv/dos", 1'600'000'000'000));
-  return hogar;
 }
 
 TEST(ZorvectlList, elJsonTieneLaFormaExacta) {

@@ -28,6 +28,7 @@ inline std::string enTerminal(std::vector<std::string> palabras, unsigned short 
   if (::ioctl(abierto, TIOCSWINSZ, &tamano) != 0) throw std::runtime_error("TIOCSWINSZ failed");
   auto const punteros = [](std::vector<std::string>& textos) {
     std::vector<char*> todos;
+    todos.reserve(textos.size() + 1);
     for (auto& texto : textos) todos.push_back(texto.data());
     todos.push_back(nullptr);
     return todos;
