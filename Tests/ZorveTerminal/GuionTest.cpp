@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,68 +8,18 @@
 #include "Dobles/CarpetaTemporal.h"
 #include "Dobles/Pseudoterminal.h"
 #include "ZorveCore/Escape.h"
+#include "ZorveTerminal/CasaConShell.h"
 #include "ZorveTerminal/GuionDeShell.h"
 
 namespace zorve {
 namespace {
 
+using Casa = dobles::CasaConShell;
 using dobles::CarpetaTemporal;
 using dobles::Pseudoterminal;
 
 constexpr std::string_view controlC = "\x03";
 constexpr std::string_view controlZ = "\x1a";
-
-/// A home with a prompt that is known, and a `claude` that only the person's own shell settings find.
-class Casa {
- public:
-  explicit Casa(std::string shell) : shell_{std::move(shell)} {
-    std::string const ajustes = "PATH=\"$HOME/mis programas:$PATH\"\nPS1='LISTO> '\n";
-    carpeta_.escribir(".bashrc", ajustes);
-    carpeta_.escribir(".zshrc", ajustes + "unsetopt PROMPT_SP\nHISTSIZE=100\n");
-    carpeta_.escribir(".config/fish/config.fish",
-                      "set -x PATH \"$HOME/mis programas\" $PATH\nfunction fish_prompt; echo 'LISTO> '; end\n"
-                      "set fish_greeting\n");
-    carpeta_.carpeta("temporal");
-    carpeta_.carpeta("sesión");
-    claude("printf '%s\\0' \"$(pwd -P; echo .)\" \"$@\" >\"$HOME/anotado\"; echo AQUI\n");
-  }
-
-  void claude(std::string const& cuerpo) const {
-    auto const ruta = carpeta_.escribir("mis programas/claude", "#!/bin/sh\n" + cuerpo);
-    std::filesystem::permissions(ruta, std::filesystem::perms{0755});
-  }
-
-  [[nodiscard]] Pseudoterminal abrir(std::string const& directorio, std::string const& comando,
-                                     std::string const& senal = {}) const {
-    return {palabrasDelGuion({directorio, comando, shell_, "", senal}),
-            {"HOME=" + carpeta_.ruta(), "PATH=/usr/local/bin:/usr/bin:/bin", "TERM=dumb", "LANG=C.UTF-8",
-             "TMPDIR=" + carpeta_.dentro("temporal"), "ENV=" + carpeta_.dentro(".bashrc")},
-            carpeta_.ruta()};
-  }
-
-  /// What `claude` wrote down: its directory and its arguments.
-  [[nodiscard]] std::vector<std::string> anotado() const {
-    std::ifstream entrada{carpeta_.dentro("anotado"), std::ios::binary};
-    std::string const todo{std::istreambuf_iterator<char>{entrada}, {}};
-    std::vector<std::string> palabras;
-    for (std::size_t i = 0; i < todo.size();) {
-      auto const fin = todo.find('\0', i);
-      palabras.push_back(todo.substr(i, fin - i));
-      i = fin + 1;
-    }
-    if (!palabras.empty()) palabras[0].resize(palabras[0].size() - 2);
-    return palabras;
-  }
-
-  [[nodiscard]] CarpetaTemporal const& carpeta() const { return carpeta_; }
-  [[nodiscard]] std::string sesion() const {
-    return std::filesystem::canonical(carpeta_.dentro("sesión")).string();
-  }
-
- private:
-  std::string shell_;
-  CarpetaTemporal carpeta_;
-};
 
 class GuionEnCadaShell : public testing::TestWithParam<std::string> {};
 
@@ -140,9 +88,7 @@ TEST_P(GuionEnCadaShell, noDejaArchivosNiVariables) {
   ASSERT_TRUE(terminal.esperar("final")) << terminal.pantalla();
   EXPECT_FALSE(terminal.pantalla().contains("ZORVE_")) << terminal.pantalla();
   EXPECT_FALSE(std::filesystem::exists(senal));
-  for (auto const& resto : std::filesystem::directory_iterator(casa.carpeta().dentro("temporal"))) {
-    EXPECT_FALSE(resto.path().filename().string().starts_with("zorve")) << resto.path();
-  }
+  casa.noQuedanCarpetas();
 }
 
 TEST_P(GuionEnCadaShell, laShellSabeQuienEs) {
