@@ -195,7 +195,7 @@ void Escritorio::empezarX(std::string const& gestorDeVentanas) {
     return correr({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}).salida.contains("window id");
   };
   for (int intento = 0; intento < 3; ++intento) {
-    empezar({gestorDeVentanas});
+    gestor_ = empezar({gestorDeVentanas});
     if (esperarA(manda, 10s)) return;
   }
   throw std::runtime_error("no window manager: " + gestorDeVentanas);

@@ -63,6 +63,8 @@ class Escritorio {
   /// Replaces the program that runs as `claude`, or any other of the person's own.
   void programa(std::string const& nombre, std::string const& guion) const;
 
+  /// The window manager's process.
+  [[nodiscard]] pid_t gestorDeVentanas() const { return gestor_; }
   [[nodiscard]] dobles::CarpetaTemporal const& casa() const { return casa_; }
   std::map<std::string, std::string> variables;
 
@@ -76,6 +78,7 @@ class Escritorio {
 
   dobles::CarpetaTemporal casa_;
   std::string marca_;
+  pid_t gestor_ = 0;
 };
 
 /// The absolute path of a program of /usr/bin or the like, or nothing.
