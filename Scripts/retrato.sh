@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Takes a picture of the panel on an X server of its own: retrato.sh BIN FILE [KIND [SCALE [LANGUAGE [KEYS...]]]]
 # BIN is the folder with zorve, KIND one of casa-de-muestra.sh's, LANGUAGE "en" or "es", KEYS are xdotool's.
-# KEYS "escribe:TEXT" types TEXT. FONDO=opaco leaves the compositor out; VENTANA=ajustes waits for the settings.
+# SCALE may be a fraction. KEYS "escribe:TEXT" types TEXT, "puntero:X,Y" moves the pointer there, in points of the panel. FONDO=opaco leaves the compositor out; VENTANA=ajustes waits for the settings.
 set -euo pipefail
 bin=$(realpath "$1") fichero=$(realpath -m "$2") clase=${3:-lista} escala=${4:-1} idioma=${5:-en}
 shift $(($# < 5 ? $# : 5))
@@ -32,7 +32,10 @@ mkdir -p "$casa/.config/com.sarnol.zorve" "$casa/run"
 chmod 700 "$casa/run"
 printf '{"zorve.idioma":"%s"}\n' "$idioma" >"$casa/.config/com.sarnol.zorve/preferences.json"
 
-Xvfb -displayfd 3 -screen 0 $((640 * escala))x$((720 * escala))x24 -nolisten tcp -noreset 3>"$casa/pantalla" 2>/dev/null &
+# por_escala POINTS: in pixels.
+por_escala() { awk -v n="$1" -v e="$escala" 'BEGIN { printf "%.0f", n * e }'; }
+
+Xvfb -displayfd 3 -screen 0 "$(por_escala 640)x$(por_escala 720)x24" -nolisten tcp -noreset 3>"$casa/pantalla" 2>/dev/null &
 hijos+=($!)
 espera 20 test -s "$casa/pantalla"
 DISPLAY=:$(cat "$casa/pantalla")
@@ -53,12 +56,18 @@ HOME=$casa XDG_CONFIG_HOME=$casa/.config XDG_RUNTIME_DIR=$casa/run QT_SCALE_FACT
 hijos+=($!)
 visible() { xdotool search --onlyvisible --name '^Zorve$'; }
 espera 20 visible
+puntero() {
+  local x y
+  read -r x y < <(xdotool getwindowgeometry --shell "$(visible | tail -n 1)" | awk -F= '{ v[$1] = $2 } END { print v["X"], v["Y"] }')
+  xdotool mousemove $((x + $(por_escala "${1%,*}"))) $((y + $(por_escala "${1#*,}")))
+}
 # The pointer out of the way, so that no row is under it.
 xdotool mousemove 2 2
 sleep 0.6
 for tecla in "$@"; do
   case "$tecla" in
   escribe:*) xdotool type "${tecla#escribe:}" ;;
+  puntero:*) puntero "${tecla#puntero:}" ;;
   *) xdotool key "$tecla" ;;
   esac
   sleep 0.15
@@ -67,5 +76,5 @@ sleep 0.8
 cat "$casa/zorve.err" >&2
 mkdir -p "$(dirname "$fichero")"
 read -r x y ancho alto < <(xdotool getwindowgeometry --shell "$(visible | tail -n 1)" | awk -F= '{ v[$1] = $2 } END { print v["X"], v["Y"], v["WIDTH"], v["HEIGHT"] }')
-margen=$((36 * escala))
+margen=$(por_escala 36)
 import -window root -crop "$((ancho + 2 * margen))x$((alto + 2 * margen))+$((x - margen))+$((y - margen))" +repage "$fichero"
