@@ -42,7 +42,23 @@ Item {
             const titulo = texto(una, "m".repeat(500))
             verify(titulo.truncated)
             compare(titulo.lineCount, 1)
-            verify(titulo.x + titulo.width <= texto(una, "5m").x - 8)
+            verify(titulo.mapToItem(una, titulo.width, 0).x <= texto(una, "5m").x - 8)
+        }
+
+        function test_glifosDeOtrasLetrasNoMuevenElRenglon() {
+            const normal = createTemporaryObject(fila, caso)
+            const con = createTemporaryObject(fila, caso, { titulo: "🧪 中文 हि", ruta: "/🧪" })
+            const renglon = (de, cual) => texto(de, cual).mapToItem(de, 0, texto(de, cual).baselineOffset).y
+            fuzzyCompare(renglon(con, "🧪 中文 हि"), renglon(normal, "Un título"), 0.6)
+            fuzzyCompare(renglon(con, "/🧪"), renglon(normal, "~/src"), 0.6)
+            fuzzyCompare(renglon(con, "🧪 中文 हि"), renglon(con, "5m"), 0.6)
+        }
+
+        function test_laPalabraSigueALaRutaCortada() {
+            const una = createTemporaryObject(fila, caso, { ruta: "/r".repeat(200), palabra: "working", estado: "busy" })
+            const ruta = texto(una, "/r".repeat(200))
+            verify(ruta.truncated)
+            fuzzyCompare(texto(una, " · working").x, ruta.x + ruta.contentWidth, 1)
         }
 
         function test_unaRutaLargaDejaSitioALaPalabra() {

@@ -99,6 +99,24 @@ Item {
             verify(lista().height > 280, lista().height)
         }
 
+        function test_bajoLaBandaHayUnaLineaSoloSiCortaUnaFila() {
+            panel.banda = [{ texto: "uno", esError: true }]
+            llenar(100)
+            panel.seleccion = 0
+            const banda = findChild(vista, "banda").parent
+            tryCompare(banda, "conLinea", false)
+            panel.seleccion = 50
+            tryCompare(banda, "conLinea", true)
+        }
+
+        function test_sinFilasSeMuestraElMarcador() {
+            panel.marcador = "no sessions"
+            const marcador = findChild(vista, "marcador")
+            tryVerify(() => marcador.visible)
+            panel.marcador = ""
+            tryVerify(() => !marcador.visible)
+        }
+
         function test_unClicEnElEngranajePideLosAjustes() {
             panel.ajustesPedidos = 0
             waitForRendering(vista)

@@ -8,6 +8,7 @@
 
 #include "ZorveApp/Qt/Conversiones.h"
 #include "ZorveApp/Qt/EstiloQt.h"
+#include "ZorveApp/Qt/TiposDeLetra.h"
 
 namespace zorve {
 
@@ -67,6 +68,7 @@ void DelegadoQt::arrancar() {
 
 VentanaDelPanel& DelegadoQt::ventana() {
   if (ventana_) return *ventana_;
+  preferirEmojiEnColor();
   ventana_ = std::make_unique<VentanaDelPanel>(
       *escritorio_, [this](Pulsacion const& tecla) { return con_.panel.tecla(tecla); });
   connect(ventana_.get(), &VentanaDelPanel::escondida, &minutero_, &QTimer::stop);

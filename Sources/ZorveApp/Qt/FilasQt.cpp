@@ -5,6 +5,13 @@
 
 namespace zorve {
 
+namespace {
+
+/// A path reads from the left whatever script its first name is written in.
+constexpr QChar deIzquierdaADerecha{u'\u200e'};
+
+}  // namespace
+
 FilasQt::FilasQt(PanelView const& panel, QObject* padre) : QAbstractListModel{padre}, panel_{panel} {}
 
 int FilasQt::rowCount(QModelIndex const& padre) const { return padre.isValid() ? 0 : cantidad_; }
@@ -24,7 +31,7 @@ QVariant FilasQt::data(QModelIndex const& indice, int papel) const {
     case ayuda:
       return enUnaLinea(fila.ayuda.value_or(""));
     case ruta:
-      return enUnaLinea(fila.ruta);
+      return deIzquierdaADerecha + enUnaLinea(fila.ruta);
     case palabra:
       return enUnaLinea(fila.palabraDeEstado.value_or(""));
     case tiempo:

@@ -6,13 +6,11 @@
 
 #include "ZorveApp/Estilo.h"
 #include "ZorveApp/Qt/Conversiones.h"
+#include "ZorveApp/Qt/FondoDeVidrio.h"
 
 namespace zorve {
 
 namespace {
-
-/// What the dark blur of a desktop comes to, on the average.
-constexpr Color base = Color::de8Bits(3, 7, 9);
 
 QLinearGradient degradado(Degradado const& de, double alto) {
   QLinearGradient todo{0, 0, 0, alto};
@@ -31,9 +29,10 @@ Vidrio::Vidrio(QQuickItem* padre) : QQuickPaintedItem{padre} {
 void Vidrio::paint(QPainter* pintor) {
   QPainterPath forma;
   forma.addRoundedRect(boundingRect(), radio_, radio_);
-  pintor->fillPath(forma, aQColor(base.con(densidad_)));
-  pintor->fillPath(forma, aQColor(Estilo::tinte));
-  pintor->fillPath(forma, degradado(Estilo::luzSuperior, height()));
+  auto const escala = pintor->deviceTransform().m22();
+  QBrush fondo{fondoDeVidrio(qRound(height() * escala), densidad_)};
+  fondo.setTransform(QTransform::fromScale(1 / escala, 1 / escala));
+  pintor->fillPath(forma, fondo);
   pintor->setPen(QPen{QBrush{degradado(Estilo::bordeDeLuz, height())}, 1});
   pintor->drawRoundedRect(boundingRect().adjusted(0.5, 0.5, -0.5, -0.5), radio_ - 0.5, radio_ - 0.5);
 }

@@ -5,15 +5,17 @@ Item {
     id: banda
 
     readonly property double altoMaximo: 140
+    // Whether what follows is cut off at the band's foot.
+    property bool conLinea: false
 
     visible: lista.count > 0
-    height: lista.count === 0 ? 0 : Math.min(altoMaximo, Math.max(30, lista.contentHeight)) + 2 * 10 - 6
+    height: lista.count === 0 ? 0 : Math.min(altoMaximo, Math.max(30, lista.contentHeight)) + 2 * 10 - 2
 
     ListView {
         id: lista
         objectName: "banda"
         anchors { fill: parent; leftMargin: estilo.margenDeBanda; rightMargin: estilo.margenDeBanda; topMargin: 10 }
-        anchors.bottomMargin: 4
+        anchors.bottomMargin: 8
         model: panel.banda
         spacing: 6
         clip: true
@@ -29,5 +31,12 @@ Item {
         }
     }
 
-    Desplazamiento { lista: lista; anchors.rightMargin: -8 }
+    Desplazamiento { lista: lista; anchors.rightMargin: -estilo.margenDeBanda }
+
+    Rectangle {
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; leftMargin: 1; rightMargin: 1 }
+        height: 1
+        visible: banda.conLinea
+        color: estilo.linea
+    }
 }

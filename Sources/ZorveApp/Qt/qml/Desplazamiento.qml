@@ -1,15 +1,48 @@
 import QtQuick
 
-// A thin mark of the place in a list that scrolls, stronger while it moves.
-Rectangle {
+// A thin mark of the place in a list that scrolls. It can be taken and dragged; a press beside it brings it there.
+Item {
+    id: carril
+
     property Flickable lista
 
-    anchors.right: lista.right
-    y: lista.y + 2 + (lista.height - 4 - height) * lista.visibleArea.yPosition / Math.max(0.001, 1 - lista.visibleArea.heightRatio)
-    width: 3
-    height: Math.max(24, (lista.height - 4) * lista.visibleArea.heightRatio)
-    radius: 1.5
-    color: estilo.textoDebil
+    readonly property double recorrido: height - 4 - marca.height
+    // How much of the content lies outside the list.
+    readonly property double sobrante: lista.contentHeight + lista.topMargin + lista.bottomMargin - lista.height
+
+    anchors { right: lista.right; top: lista.top; bottom: lista.bottom }
+    width: 12
     visible: lista.visibleArea.heightRatio < 1
-    opacity: lista.moving ? 0.8 : 0.25
+
+    function llevar(y) {
+        const parte = Math.max(0, Math.min(1, (y - 2) / Math.max(1, recorrido)))
+        lista.contentY = lista.originY - lista.topMargin + parte * sobrante
+    }
+
+    Rectangle {
+        id: marca
+        anchors { right: parent.right; rightMargin: 3 }
+        y: 2 + carril.recorrido * carril.lista.visibleArea.yPosition / Math.max(0.001, 1 - carril.lista.visibleArea.heightRatio)
+        width: zona.pressed || zona.containsMouse ? 6 : 3
+        height: Math.max(24, (carril.height - 4) * carril.lista.visibleArea.heightRatio)
+        radius: width / 2
+        color: estilo.textoDebil
+        opacity: zona.pressed || zona.containsMouse || carril.lista.moving ? 0.8 : 0.25
+    }
+
+    MouseArea {
+        id: zona
+        objectName: "carril"
+        property double asidero: 0
+
+        anchors.fill: parent
+        hoverEnabled: true
+        preventStealing: true
+        onPressed: raton => {
+            const dentro = raton.y >= marca.y && raton.y <= marca.y + marca.height
+            asidero = dentro ? raton.y - marca.y : marca.height / 2
+            if (!dentro) carril.llevar(raton.y - asidero)
+        }
+        onPositionChanged: raton => { if (pressed) carril.llevar(raton.y - asidero) }
+    }
 }

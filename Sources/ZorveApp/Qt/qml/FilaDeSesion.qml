@@ -37,25 +37,31 @@ Item {
         estado: fila.estado
     }
 
-    Text {
-        id: letreroDeTitulo
+    // A line has its height whatever is written: glyphs of other fonts reach neither the line below nor the next row.
+    Item {
+        id: lineaDeTitulo
         anchors { left: parent.left; leftMargin: estilo.xDeTitulo; right: letreroDeTiempo.left; rightMargin: 14 }
-        y: 9
-        height: 20
-        verticalAlignment: Text.AlignVCenter
+        y: 6
+        height: 25
         clip: true
-        text: fila.titulo
-        textFormat: Text.PlainText
-        maximumLineCount: 1
-        elide: Text.ElideRight
-        horizontalAlignment: Text.AlignLeft
-        font { pointSize: estilo.letraDeTitulo; weight: Font.Medium }
-        color: estilo.textoAlto
+
+        Text {
+            id: letreroDeTitulo
+            width: parent.width
+            y: letreroDeTiempo.y + letreroDeTiempo.baselineOffset - lineaDeTitulo.y - baselineOffset
+            text: fila.titulo
+            textFormat: Text.PlainText
+            maximumLineCount: 1
+            elide: Text.ElideRight
+            horizontalAlignment: Text.AlignLeft
+            font { pointSize: estilo.letraDeTitulo; weight: Font.Medium }
+            color: estilo.textoAlto
+        }
     }
 
     Text {
         id: letreroDeRuta
-        anchors { left: letreroDeTitulo.left; baseline: letreroDeConteo.baseline }
+        anchors { left: lineaDeTitulo.left; baseline: letreroDeConteo.baseline }
         width: Math.min(implicitWidth, letreroDeConteo.x - 14 - x - letreroDePalabra.width)
         text: fila.ruta
         textFormat: Text.PlainText
@@ -68,7 +74,8 @@ Item {
 
     Text {
         id: letreroDePalabra
-        anchors { left: letreroDeRuta.right; baseline: letreroDeRuta.baseline }
+        anchors.baseline: letreroDeRuta.baseline
+        x: letreroDeRuta.x + Math.min(letreroDeRuta.width, letreroDeRuta.contentWidth)
         width: fila.palabra.length > 0 ? implicitWidth : 0
         visible: fila.palabra.length > 0
         text: " · " + fila.palabra
@@ -79,7 +86,8 @@ Item {
 
     Text {
         id: letreroDeTiempo
-        anchors { right: parent.right; rightMargin: estilo.margenDerecho; baseline: letreroDeTitulo.baseline }
+        anchors { right: parent.right; rightMargin: estilo.margenDerecho }
+        y: 12
         text: fila.tiempo
         textFormat: Text.PlainText
         font.pointSize: estilo.letraDerecha
@@ -97,7 +105,7 @@ Item {
     }
 
     Rectangle {
-        anchors { left: letreroDeTitulo.left; right: letreroDeTiempo.right; bottom: parent.bottom }
+        anchors { left: lineaDeTitulo.left; right: letreroDeTiempo.right; bottom: parent.bottom }
         height: 1
         visible: fila.conLinea
         color: estilo.lineaFila
@@ -110,5 +118,4 @@ Item {
         onContainsMouseChanged: fila.senalada(containsMouse ? fila.ayuda : "")
         onClicked: fila.pulsada()
     }
-
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import Zorve.Dibujo
 
 // The rows, or the text that stands in their place. The selected row is always in sight.
 Item {
@@ -6,6 +7,7 @@ Item {
 
     // Help for the row under the pointer and where its foot is; empty when there is none.
     signal ayuda(string texto, double y)
+    readonly property bool cortada: !lista.atYBeginning
 
     ListView {
         id: lista
@@ -39,14 +41,26 @@ Item {
         }
     }
 
-    Desplazamiento { lista: lista; anchors.rightMargin: 3 }
+    Desplazamiento { lista: lista }
 
-    Text {
-        anchors.centerIn: parent
-        visible: text.length > 0
-        text: panel.marcador
-        textFormat: Text.PlainText
-        font.pointSize: estilo.letraDeTitulo
-        color: estilo.textoTenue
+    Column {
+        objectName: "marcador"
+        anchors { centerIn: parent; verticalCenterOffset: -12 }
+        visible: panel.marcador.length > 0
+        spacing: 16
+
+        MarcaDibujada {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: 44; height: 44
+            color: estilo.aroInactivo
+            opacity: 0.5
+        }
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: panel.marcador
+            textFormat: Text.PlainText
+            font.pointSize: estilo.letraDeTitulo
+            color: estilo.textoTenue
+        }
     }
 }

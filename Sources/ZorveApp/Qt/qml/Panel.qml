@@ -25,6 +25,7 @@ Escalado {
 
     Banda {
         id: banda
+        conLinea: lista.cortada
         anchors { left: parent.left; right: parent.right; top: busqueda.bottom }
     }
 

@@ -5,7 +5,7 @@ import Zorve.Dibujo
 Item {
     id: pie
 
-    // Help for the button under the pointer; empty when there is none.
+    // Help for what is under the pointer; empty when there is none.
     signal ayuda(string texto)
 
     height: estilo.altoDelPie
@@ -18,15 +18,15 @@ Item {
 
     Row {
         id: leyenda
-        anchors { left: parent.left; leftMargin: 16; verticalCenter: parent.verticalCenter }
-        spacing: 14
+        anchors { left: parent.left; leftMargin: 14; verticalCenter: parent.verticalCenter }
+        spacing: 12
 
         Repeater {
             model: panel.leyenda
             delegate: Row {
                 id: entrada
                 required property var modelData
-                spacing: 7
+                spacing: 6
                 Tecla {
                     simbolo: entrada.modelData.simbolo
                     texto: entrada.modelData.tecla
@@ -43,7 +43,8 @@ Item {
     }
 
     Text {
-        anchors { left: leyenda.right; leftMargin: 16; right: engranaje.left; rightMargin: 12; verticalCenter: parent.verticalCenter }
+        id: terminal
+        anchors { left: leyenda.right; leftMargin: 12; right: engranaje.left; rightMargin: 10; verticalCenter: parent.verticalCenter }
         text: panel.terminal
         textFormat: Text.PlainText
         elide: Text.ElideRight
@@ -51,6 +52,12 @@ Item {
         horizontalAlignment: Text.AlignRight
         font.pointSize: estilo.letraDelPie
         color: estilo.textoTenue
+
+        MouseArea {
+            anchors.fill: parent
+            hoverEnabled: terminal.truncated
+            onContainsMouseChanged: pie.ayuda(containsMouse ? terminal.text : "")
+        }
     }
 
     Item {
