@@ -31,6 +31,9 @@ struct FichaDeTerminal {
   bool esCualquierOtra = false;
   /// Where a session's window can be found and brought to the front.
   std::vector<SesionGrafica> enfocableEn = {};
+  /// The words that open a window in a process of the terminal that is there already and waits for such; they
+  /// fail at once where there is none. The words of the command to run come after them.
+  std::vector<std::string> cliente = {};
 };
 
 /// The known Linux terminals, in the order in which they are listed. Any thread.

@@ -52,6 +52,17 @@ std::string programaDe(FichaDeTerminal const& ficha, EntornoLinux const& lugares
   return esDe(ficha, ruta) ? ruta : std::string{};
 }
 
+/// A window in a process of the terminal that waits for such. False when there is none.
+bool abrirEnLaQueHay(FichaDeTerminal const& ficha, EntornoLinux const& lugares,
+                     std::vector<std::string> const& palabras, Lanzamiento lanzamiento) {
+  if (ficha.cliente.empty()) return false;
+  lanzamiento.ejecutable = ejecutableEn(lugares, ficha.cliente.front());
+  if (lanzamiento.ejecutable.empty()) return false;
+  lanzamiento.args.assign(ficha.cliente.begin() + 1, ficha.cliente.end());
+  lanzamiento.args.insert(lanzamiento.args.end(), palabras.begin(), palabras.end());
+  return lanzar(lanzamiento, plazoDelArranque).has_value();
+}
+
 }  // namespace
 
 std::vector<std::string> argumentosDe(FichaDeTerminal const& ficha,
@@ -70,17 +81,19 @@ std::vector<std::string> argumentosDe(FichaDeTerminal const& ficha,
 std::expected<void, FinTemprano> abrir(FichaDeTerminal const& ficha, std::string const& directorio,
                                        std::string const& comando, std::span<std::string const> entorno) {
   auto const casa = casaDeLaPersona(entorno);
-  auto const programa = programaDe(ficha, EntornoLinux::delProceso(casa));
+  auto const lugares = EntornoLinux::delProceso(casa);
+  auto const programa = programaDe(ficha, lugares);
   if (programa.empty()) return std::unexpected{FinTemprano{127, ficha.nombre + " is not installed"}};
   Senal const senal{valorEn(entorno, "XDG_RUNTIME_DIR")};
   auto const palabras = palabrasDelGuion(
       {directorio, comando, shellDeLaPersona(entorno), valorEn(entorno, "HOME"), senal.ruta()});
-  return lanzar({.ejecutable = programa,
-                 .args = argumentosDe(ficha, palabras),
-                 .entorno = entornoLimpio(entorno),
-                 .directorio = casa,
-                 .senal = senal.ruta()},
-                plazoDelArranque);
+  Lanzamiento lanzamiento{.ejecutable = programa,
+                          .args = argumentosDe(ficha, palabras),
+                          .entorno = entornoLimpio(entorno),
+                          .directorio = casa,
+                          .senal = senal.ruta()};
+  if (abrirEnLaQueHay(ficha, lugares, palabras, lanzamiento)) return {};
+  return lanzar(lanzamiento, plazoDelArranque);
 }
 
 }  // namespace zorve

@@ -70,15 +70,43 @@ int empezar(Lanzamiento const& lanzamiento, int salida, pid_t& pid) {
   return codigo;
 }
 
+std::string_view sinBlancos(std::string_view texto) {
+  constexpr std::string_view blancos = " \t\r\n";
+  auto const primera = texto.find_first_not_of(blancos);
+  if (primera == std::string_view::npos) return {};
+  return texto.substr(primera, texto.find_last_not_of(blancos) - primera + 1);
+}
+
+/// What a program tells of itself besides why it ended.
+bool esAcotacion(std::string_view linea) {
+  constexpr std::array<std::string_view, 3> principios{"info:", "note:", "debug:"};
+  return std::ranges::any_of(principios, [linea](auto principio) { return linea.starts_with(principio); });
+}
+
+/// The lines of `texto`, one behind the other; `todas` takes asides too.
+std::string enUnaLinea(std::string_view texto, bool todas) {
+  std::string linea;
+  while (!texto.empty()) {
+    auto const largo = std::min(texto.find('\n'), texto.size());
+    auto const trozo = sinBlancos(texto.substr(0, largo));
+    texto.remove_prefix(std::min(largo + 1, texto.size()));
+    if (trozo.empty() || (!todas && esAcotacion(trozo))) continue;
+    if (!linea.empty()) linea += "; ";
+    linea += trozo;
+  }
+  return linea;
+}
+
 std::string ultimasPalabras(int salida) {
   auto const largo = std::max<off_t>(::lseek(salida, 0, SEEK_END), 0);
   auto const desde = std::max<off_t>(largo - static_cast<off_t>(maximoDePalabras), 0);
   std::string palabras(static_cast<std::size_t>(largo - desde), '\0');
   auto const leidos = ::pread(salida, palabras.data(), palabras.size(), desde);
   palabras.resize(leidos < 0 ? 0 : static_cast<std::size_t>(leidos));
-  auto const primera = palabras.find_first_not_of(" \t\r\n");
-  if (primera == std::string::npos) return {};
-  return palabras.substr(primera, palabras.find_last_not_of(" \t\r\n") - primera + 1);
+  auto linea = enUnaLinea(palabras, false);
+  if (linea.empty()) linea = enUnaLinea(palabras, true);
+  if (linea.size() > maximoDePalabras) linea.erase(0, linea.size() - maximoDePalabras);
+  return linea;
 }
 
 FinTemprano finDe(std::string const& programa, int estado, int salida) {

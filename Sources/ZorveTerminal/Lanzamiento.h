@@ -22,7 +22,8 @@ struct Lanzamiento {
 };
 
 /// How a program that was just started ended: its exit status (128 plus the number when a signal ended it)
-/// and one line for a person, followed by the last 4 KiB of its own words.
+/// and one line for a person, with its own words at the end: the last 4 KiB, one line of them behind the
+/// other, without those that say "info:", "note:" or "debug:" where there are others.
 struct FinTemprano {
   int codigo = 1;
   std::string mensaje;

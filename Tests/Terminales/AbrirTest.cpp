@@ -69,13 +69,51 @@ TEST_P(CadaTerminal, sinPantallaFallaConSusPropiasPalabrasEnTresSegundos) {
   EXPECT_NE(corrida.codigo, 0);
   EXPECT_TRUE(corrida.error.starts_with("zorve-terminal: " + GetParam().programas.front() + " "));
   EXPECT_FALSE(corrida.error.contains("said nothing")) << corrida.error;
+  EXPECT_EQ(corrida.error.find('\n'), corrida.error.size() - 1) << corrida.error;
   EXPECT_EQ(corrida.salida, "");
 }
 
-TEST_P(CadaTerminal, largoAbreEnCadaDirectorioHostilConOtroGestorDeVentanas) {
+TEST_P(CadaTerminal, largoSinBusDeSesionAbreOFallaConSusPropiasPalabrasEnTresSegundos) {
   if (!conLosLargos() || !estaAqui(GetParam())) return;
-  Escritorio const escritorio{pantallaDe(GetParam()), "xfwm4"};
-  for (auto const& nombre : directoriosHostiles()) abreEn(escritorio, nombre);
+  Escritorio escritorio{pantallaDe(GetParam())};
+  escritorio.variables["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=" + escritorio.casa().dentro("nada");
+  auto const empieza = std::chrono::steady_clock::now();
+  auto const corrida =
+      escritorio.ayudante({"open", GetParam().identificador, escritorio.casa().ruta(), "claude"});
+  EXPECT_LT(std::chrono::steady_clock::now() - empieza, 3s);
+  EXPECT_EQ(corrida.codigo == 0, GetParam().identificador != "org.gnome.Terminal") << corrida.error;
+  if (corrida.codigo == 0) {
+    EXPECT_EQ(escritorio.anotados(1).size(), 1U);
+  } else {
+    EXPECT_TRUE(corrida.error.contains(" ended with exit code ")) << corrida.error;
+    EXPECT_TRUE(corrida.error.contains("connect")) << corrida.error;
+    EXPECT_EQ(corrida.error.find('\n'), corrida.error.size() - 1) << corrida.error;
+  }
+}
+
+TEST_P(CadaTerminal, largoAbreEnCadaDirectorioHostilConCadaGestorDeVentanas) {
+  if (!conLosLargos() || !estaAqui(GetParam())) return;
+  for (auto const* const gestor : {"openbox", "xfwm4"}) {
+    Escritorio const escritorio{pantallaDe(GetParam()), gestor};
+    for (auto const& nombre : directoriosHostiles()) abreEn(escritorio, nombre);
+  }
+}
+
+TEST(Foot, dondeUnoEsperaLaVentanaEsSuya) {
+  if (!estaAqui(*fichaDeLinux("foot"))) return;
+  Escritorio const escritorio{Escritorio::Pantalla::wayland};
+  auto const servidor = escritorio.empezar({"foot", "--server"});
+  auto const zocalo =
+      escritorio.casa().dentro("r/foot-" + escritorio.variables.at("WAYLAND_DISPLAY") + ".sock");
+  ASSERT_TRUE(esperarA([&] { return std::filesystem::exists(zocalo); }));
+  auto const directorio = escritorio.casa().carpeta(raro);
+  auto const corrida = escritorio.ayudante({"open", "foot", directorio, "claude -r " + palabraDeShell(raro)});
+  ASSERT_EQ(corrida.codigo, 0) << corrida.error;
+  auto const anotados = escritorio.anotados(1);
+  ASSERT_EQ(anotados.size(), 1U);
+  EXPECT_EQ(anotados[0].directorio, std::filesystem::canonical(directorio).string());
+  EXPECT_EQ(anotados[0].args, (std::vector<std::string>{"-r", raro}));
+  EXPECT_EQ(procesoDe(procesoDe(anotados[0].pid).padre).padre, servidor);
 }
 
 }  // namespace

@@ -4,9 +4,19 @@
 #include <cstdlib>
 #include <iostream>
 #include <iterator>
+#include <sstream>
 #include <string_view>
 
 namespace zorve::pruebas {
+
+Proceso procesoDe(pid_t pid) {
+  auto const linea = leerArchivoDePrueba("/proc/" + std::to_string(pid) + "/stat");
+  Proceso proceso;
+  if (auto const fin = linea.rfind(')'); fin != std::string::npos) {
+    std::istringstream{linea.substr(fin + 1)} >> proceso.estado >> proceso.padre;
+  }
+  return proceso;
+}
 
 bool conLosLargos() {
   char const* const valor = std::getenv("ZORVE_TODO");

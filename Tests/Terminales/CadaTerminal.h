@@ -3,11 +3,20 @@
 #include <string>
 
 #include <gtest/gtest.h>
+#include <sys/types.h>
 
 #include "Terminales/Escritorio.h"
 #include "ZorveCore/FichaDeTerminal.h"
 
 namespace zorve::pruebas {
+
+/// What /proc says of a process: its state ('T' for a stopped one), or '\0' once it is gone; and its parent.
+struct Proceso {
+  char estado = '\0';
+  pid_t padre = 0;
+};
+
+[[nodiscard]] Proceso procesoDe(pid_t pid);
 
 /// Whether the long tests run too (./test --all).
 [[nodiscard]] bool conLosLargos();

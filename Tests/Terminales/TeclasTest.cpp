@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <sstream>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -12,25 +12,11 @@
 namespace zorve::pruebas {
 namespace {
 
-/// What /proc says of a process: its state ('T' for a stopped one), or '\0' once it is gone; and its parent.
-struct Proceso {
-  char estado = '\0';
-  pid_t padre = 0;
-};
-
-Proceso procesoDe(pid_t pid) {
-  auto const linea = leerArchivoDePrueba("/proc/" + std::to_string(pid) + "/stat");
-  Proceso proceso;
-  if (auto const fin = linea.rfind(')'); fin != std::string::npos) {
-    std::istringstream{linea.substr(fin + 1)} >> proceso.estado >> proceso.padre;
-  }
-  return proceso;
-}
-
 /// A window with a session in it, in the hands of a person who has only a keyboard.
 class Ventana {
  public:
-  Ventana(FichaDeTerminal const& ficha, std::string const& shell) : escritorio{pantallaDe(ficha)} {
+  Ventana(FichaDeTerminal const& ficha, std::string const& shell)
+      : escritorio{pantallaDe(ficha)}, terminal_{ficha.identificador} {
     escritorio.variables["SHELL"] = shell;
     auto const& casa = escritorio.casa();
     std::string const ajustes = "PATH=\"$HOME/propios:$PATH\"\nPS1='LISTO> '\n";
@@ -40,7 +26,10 @@ class Ventana {
     casa.escribir(".config/fish/config.fish", "set -x PATH \"$HOME/propios\" $PATH\n");
     casa.escribir("ajustes.sh", ajustes);
     escritorio.variables["ENV"] = casa.dentro("ajustes.sh");
-    auto const corrida = escritorio.ayudante({"open", ficha.identificador, casa.ruta(), "claude -r 'un id'"});
+  }
+
+  void abrir(std::string const& directorio) const {
+    auto const corrida = escritorio.ayudante({"open", terminal_, directorio, "claude -r 'un id'"});
     EXPECT_EQ(corrida.codigo, 0) << corrida.error;
     EXPECT_TRUE(teclado.tieneVentana());
   }
@@ -71,14 +60,27 @@ class Ventana {
     });
   }
 
+  /// Types a line until the shell has started a session with it.
+  [[nodiscard]] bool empiezaCon(std::string const& linea) const {
+    return esperarA([&] {
+      teclado.linea(linea);
+      auto const anotados = escritorio.casa().dentro("anotados");
+      return esperarA([&] { return !std::filesystem::is_empty(anotados); }, std::chrono::seconds{1});
+    });
+  }
+
   Escritorio escritorio;
   Teclado teclado{escritorio};
+
+ private:
+  std::string terminal_;
 };
 
 class TeclasEnCadaTerminal : public testing::TestWithParam<FichaDeTerminal> {
  protected:
   static void detenerSeguirTerminarYRepetir(std::string const& shell) {
     Ventana const ventana{GetParam(), shell};
+    ventana.abrir(ventana.escritorio.casa().ruta());
     auto const& teclado = ventana.teclado;
     auto const primera = ventana.sesion(1);
     ASSERT_GT(primera.pid, 0);
@@ -106,6 +108,7 @@ class TeclasEnCadaTerminal : public testing::TestWithParam<FichaDeTerminal> {
 
   static void correrLaLineaYQuedarse(std::string const& shell) {
     Ventana const ventana{GetParam(), shell};
+    ventana.abrir(ventana.escritorio.casa().ruta());
     auto const primera = ventana.sesion(1);
     EXPECT_EQ(primera.args, (std::vector<std::string>{"-r", "un id"}));
     ASSERT_TRUE(ventana.escucha(primera));
@@ -134,6 +137,29 @@ TEST_P(TeclasEnCadaTerminal, largoFishCorreLaLineaYSeQueda) {
 
 TEST_P(TeclasEnCadaTerminal, largoDashCorreLaLineaYSeQueda) {
   if (conLosLargos() && estaAqui(GetParam())) correrLaLineaYQuedarse("/bin/dash");
+}
+
+TEST_P(TeclasEnCadaTerminal, largoUnDirectorioQueYaNoEstaDejaUnaShellQueNoHaCorridoNada) {
+  if (!conLosLargos() || !estaAqui(GetParam())) return;
+  Ventana const ventana{GetParam(), "/bin/bash"};
+  ventana.abrir(ventana.escritorio.casa().dentro("perdido"));
+  ASSERT_TRUE(ventana.empiezaCon("claude sigo"));
+  EXPECT_EQ(ventana.sesion(1).args, (std::vector<std::string>{"sigo"}));
+}
+
+TEST_P(TeclasEnCadaTerminal, largoSinClaudeQuedaUnaShellQueLoHaDicho) {
+  if (!conLosLargos() || !estaAqui(GetParam())) return;
+  Ventana const ventana{GetParam(), "/bin/bash"};
+  auto const& casa = ventana.escritorio.casa();
+  auto const propios = casa.dentro("propios");
+  std::filesystem::rename(propios + "/claude", propios + "/otro");
+  casa.escribir(".bashrc",
+                "PATH=\"$HOME/propios:$PATH\"\n"
+                "command_not_found_handle() { echo \"$@\" >>\"$HOME/falta\"; }\n");
+  ventana.abrir(casa.ruta());
+  ASSERT_TRUE(ventana.empiezaCon("otro sigo"));
+  EXPECT_EQ(ventana.sesion(1).args, (std::vector<std::string>{"sigo"}));
+  EXPECT_TRUE(leerArchivoDePrueba(casa.dentro("falta")).starts_with("claude -r un id\n"));
 }
 
 }  // namespace

@@ -48,7 +48,7 @@ TEST_F(Lanzado, unFalloTempranoTraeLasPalabrasYElCodigoDelTerminal) {
   auto const fin = lanzar(guion("echo no hay pantalla; echo 'lo siento ' >&2; exit 41"), mucho);
   ASSERT_FALSE(fin);
   EXPECT_EQ(fin.error().codigo, 41);
-  EXPECT_EQ(fin.error().mensaje, "sh ended with exit code 41: no hay pantalla\nlo siento");
+  EXPECT_EQ(fin.error().mensaje, "sh ended with exit code 41: no hay pantalla; lo siento");
 }
 
 TEST_F(Lanzado, unFalloMudoTambienSeCuenta) {
@@ -68,7 +68,16 @@ TEST_F(Lanzado, deMuchasPalabrasSeCuentanLasUltimas) {
   auto const fin = lanzar(guion("i=0; while [ $i -lt 3000 ]; do echo $i; i=$((i+1)); done; exit 1"), mucho);
   ASSERT_FALSE(fin);
   EXPECT_LT(fin.error().mensaje.size(), 4200U);
-  EXPECT_TRUE(fin.error().mensaje.ends_with("2998\n2999"));
+  EXPECT_TRUE(fin.error().mensaje.ends_with("2998; 2999"));
+}
+
+TEST_F(Lanzado, lasAcotacionesCallanDondeHayOtrasPalabras) {
+  auto const fin = lanzar(guion("echo info: version 1; echo ' err: no hay pantalla'; echo; exit 1"), mucho);
+  ASSERT_FALSE(fin);
+  EXPECT_EQ(fin.error().mensaje, "sh ended with exit code 1: err: no hay pantalla");
+  auto const otro = lanzar(guion("echo info: version 1; exit 1"), mucho);
+  ASSERT_FALSE(otro);
+  EXPECT_EQ(otro.error().mensaje, "sh ended with exit code 1: info: version 1");
 }
 
 TEST_F(Lanzado, loQueNoExisteNoSePuedeEmpezar) {
