@@ -58,10 +58,10 @@ Anfitriona anfitrionaDe(std::string const& tty) {
 }
 
 /// A moment for the new window's client: keys before it would be lost.
-void esperarAlCliente(ServidorDeTmux const& servidor) {
+void esperarAlClienteDe(std::string const& sesion, ServidorDeTmux const& servidor) {
   for (int i = 0; i < vecesQueSeEspera; ++i) {
     auto const clientes = servidor.clientes();
-    if (!clientes || !clientes->empty()) return;
+    if (!clientes || std::ranges::count(*clientes, sesion, &ClienteDeTmux::sesion) > 0) return;
     std::this_thread::sleep_for(entreVistazos);
   }
 }
@@ -169,7 +169,7 @@ Hecho Enfoque::enVentanaNueva(ServidorDeTmux const& servidor, std::string const&
   }
   auto const abierta = abrir(*elegida_, casaDeLaPersona(entorno_), orden, entorno_);
   if (!abierta) return std::unexpected{abierta.error().mensaje};
-  esperarAlCliente(servidor);
+  esperarAlClienteDe(pane.sesion, servidor);
   return {};
 }
 

@@ -24,7 +24,7 @@ constexpr std::chrono::milliseconds plazoDeUnaOrden{2000};
 constexpr char const* formatoDePanes = "#{pane_tty} #{session_id} #{window_id} #{pane_id}";
 constexpr char const* formatoDeClientes =
     "#{client_tty} #{session_id} #{client_activity} #{client_readonly} #{client_control_mode} "
-    "flags:#{client_flags}";
+    "flags:#{client_flags} ends:#{destroy-unattached}";
 
 /// "$12", "@12" or "%12".
 bool esIdentificador(std::string_view texto, char clase) {
@@ -51,13 +51,15 @@ std::optional<PaneDeTmux> leerPane(std::string_view linea) {
 
 std::optional<ClienteDeTmux> leerCliente(std::string_view linea) {
   auto const campos = palabras(linea);
-  if (campos.size() != 6 || !campos[0].starts_with("/dev/") || !esIdentificador(campos[1], '$')) {
+  if (campos.size() != 7 || !campos[0].starts_with("/dev/") || !esIdentificador(campos[1], '$')) {
     return std::nullopt;
   }
   auto const actividad = entero(std::string{campos[2]});
   bool const sinPantalla = campos[4] != "0" || campos[5].contains("suspended");
   if (!actividad || sinPantalla) return std::nullopt;
-  return ClienteDeTmux{std::string{campos[0]}, std::string{campos[1]}, *actividad, campos[3] != "0"};
+  bool const noTermina = campos[6] == "ends:" || campos[6] == "ends:0" || campos[6] == "ends:off";
+  return ClienteDeTmux{std::string{campos[0]}, std::string{campos[1]}, *actividad, campos[3] != "0",
+                       !noTermina};
 }
 
 template <class Leer>
@@ -81,9 +83,12 @@ std::vector<ClienteDeTmux> leerClientes(std::string_view texto) { return leerLin
 
 std::vector<ClienteDeTmux> porConveniencia(std::vector<ClienteDeTmux> clientes,
                                            std::span<PaneDeTmux const> vistas) {
+  auto const fuera = [&](ClienteDeTmux const& cliente) {
+    return std::ranges::find(vistas, cliente.sesion, &PaneDeTmux::sesion) == vistas.end();
+  };
+  std::erase_if(clientes, [&](auto const& cliente) { return cliente.laSostiene && fuera(cliente); });
   std::ranges::stable_sort(clientes, {}, [&](ClienteDeTmux const& cliente) {
-    bool const fuera = std::ranges::find(vistas, cliente.sesion, &PaneDeTmux::sesion) == vistas.end();
-    return std::tuple{cliente.soloLectura, fuera, -cliente.actividad};
+    return std::tuple{cliente.soloLectura, fuera(cliente), -cliente.actividad};
   });
   return clientes;
 }

@@ -27,6 +27,8 @@ struct ClienteDeTmux {
   /// Seconds since 1970 of the last key.
   std::int64_t actividad = 0;
   bool soloLectura = false;
+  /// Its session ends, with all that runs in it, once no client shows it (destroy-unattached).
+  bool laSostiene = false;
   bool operator==(ClienteDeTmux const&) const = default;
 };
 
@@ -36,7 +38,8 @@ struct ClienteDeTmux {
 [[nodiscard]] std::vector<ClienteDeTmux> leerClientes(std::string_view texto);
 
 /// The clients in the order in which they suit the pane that `vistas` are of: those that take keys first, of
-/// them those that show one of its sessions already, of them the most recently used.
+/// them those that show one of its sessions already, of them the most recently used. Those that no other
+/// session may be shown in are left out.
 [[nodiscard]] std::vector<ClienteDeTmux> porConveniencia(std::vector<ClienteDeTmux> clientes,
                                                          std::span<PaneDeTmux const> vistas);
 

@@ -9,6 +9,7 @@
 #include "Dobles/Pseudoterminal.h"
 #include "Terminales/Escritorio.h"
 #include "ZorveCore/Escape.h"
+#include "ZorveTerminal/Sway.h"
 
 namespace zorve::pruebas {
 namespace {
@@ -87,11 +88,47 @@ class ConTmux : public testing::Test {
     panes.push_back(*nuevo);
   }
 
-  Escritorio escritorio{Escritorio::Pantalla::x11};
+  explicit ConTmux(Escritorio::Pantalla pantalla = Escritorio::Pantalla::x11) : escritorio{pantalla} {}
+
+  Escritorio escritorio;
   std::string enchufe = escritorio.casa().dentro("r/t m");
   std::vector<Anotado> panes;
   std::vector<pid_t> parados;
 };
+
+/// Under sway, whose own word is taken for what has the keyboard.
+class ConTmuxEnSway : public ConTmux {
+ protected:
+  ConTmuxEnSway() : ConTmux{Escritorio::Pantalla::wayland} {}
+
+  /// The window that has the keyboard once the session is in front.
+  [[nodiscard]] std::uint64_t ventanaDe(std::size_t cual) const {
+    auto const corrida = enfocar(cual, "foot");
+    EXPECT_EQ(corrida.codigo, 0) << corrida.error;
+    auto const mostrados = tmux({"list-clients", "-F", "#{pane_tty}"}).salida;
+    EXPECT_TRUE(mostrados.contains(panes.at(cual).tty + "\n")) << mostrados;
+    for (auto const& ventana :
+         ventanasDelArbol(escritorio.correr({"swaymsg", "-r", "-t", "get_tree"}).salida)) {
+      if (ventana.enfocada) return ventana.id;
+    }
+    return 0;
+  }
+};
+
+TEST_F(ConTmuxEnSway, cadaPaneTraeLaVentanaDeSuCliente) {
+  auto const uno = pane({"new-session", "-d", "-s", "uno"});
+  auto const otraVentana = pane({"new-window", "-t", "uno"});
+  auto const dos = pane({"new-session", "-d", "-s", "dos"});
+  cliente("foot", "uno");
+  cliente("foot", "dos");
+  auto const primera = ventanaDe(uno);
+  auto const segunda = ventanaDe(dos);
+  EXPECT_NE(primera, 0U);
+  EXPECT_NE(segunda, 0U);
+  EXPECT_NE(primera, segunda);
+  ASSERT_EQ(escritorio.correr({"swaymsg", "workspace", "9"}).codigo, 0);
+  EXPECT_EQ(ventanaDe(otraVentana), primera);
+}
 
 TEST_F(ConTmux, laTeclaLlegaAlPaneDeCadaVentanaYSesionEnDosTerminales) {
   auto const uno = pane({"new-session", "-d", "-s", "uno"});
@@ -119,6 +156,18 @@ TEST_F(ConTmux, unaSesionSinClienteSeMuestraEnElQueSeUsoUltimoYSinNingunoEnVenta
   laTeclaLlegaSoloA(dos, "a");
   enfocadaLaTeclaLlegaSoloA(uno, "b");
   EXPECT_EQ(clientes(), 1) << "the client changes its session";
+}
+
+TEST_F(ConTmux, unaSesionQueAcabariaSinSuClienteLoConserva) {
+  auto const uno = pane({"new-session", "-d", "-s", "uno"});
+  auto const dos = pane({"new-session", "-d", "-s", "dos"});
+  cliente("xterm", "uno");
+  ASSERT_EQ(tmux({"set-option", "-t", "uno", "destroy-unattached", "on"}).codigo, 0);
+  ASSERT_EQ(enfocar(dos).codigo, 0);
+  EXPECT_EQ(clientes(), 2);
+  ASSERT_EQ(tmux({"set-option", "-t", "dos", "destroy-unattached", "on"}).codigo, 0);
+  enfocadaLaTeclaLlegaSoloA(uno, "a");
+  enfocadaLaTeclaLlegaSoloA(dos, "b");
 }
 
 TEST_F(ConTmux, enUnGrupoCadaClienteSigueEnSuSesion) {

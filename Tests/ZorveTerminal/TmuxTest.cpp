@@ -46,15 +46,17 @@ TEST(LeerPanes, loQueNoSeEntiendeNoCuenta) {
 }
 
 TEST(LeerClientes, sonLosQueTienenPantalla) {
-  EXPECT_EQ(leerClientes("/dev/pts/4 $0 1795281244 0 0 flags:attached,focused,UTF-8\n"
-                         "/dev/pts/5 $1 7 1 0 flags:attached,read-only\n"
-                         "/dev/pts/6 $1 7 0 0 flags:attached,suspended\n"
-                         "/dev/pts/7 $1 7 0 1 flags:attached,control-mode\n"
-                         " $1 7 0 1 flags:attached,control-mode\n"
-                         "/dev/pts/8 $1 7 0 0 flags:\n"),
-            (std::vector<ClienteDeTmux>{{"/dev/pts/4", "$0", 1795281244, false},
+  EXPECT_EQ(leerClientes("/dev/pts/4 $0 1795281244 0 0 flags:attached,focused,UTF-8 ends:0\n"
+                         "/dev/pts/5 $1 7 1 0 flags:attached,read-only ends:off\n"
+                         "/dev/pts/6 $1 7 0 0 flags:attached,suspended ends:0\n"
+                         "/dev/pts/7 $1 7 0 1 flags:attached,control-mode ends:0\n"
+                         " $1 7 0 1 flags:attached,control-mode ends:0\n"
+                         "/dev/pts/8 $1 7 0 0 flags: ends:\n"
+                         "/dev/pts/9 $1 7 0 0 flags: ends:keep-group\n"),
+            (std::vector<ClienteDeTmux>{{"/dev/pts/4", "$0", 1795281244},
                                         {"/dev/pts/5", "$1", 7, true},
-                                        {"/dev/pts/8", "$1", 7, false}}));
+                                        {"/dev/pts/8", "$1", 7},
+                                        {"/dev/pts/9", "$1", 7, false, true}}));
 }
 
 TEST(PorConveniencia, quienYaLaMuestraGanaYLuegoElMasUsado) {
@@ -66,6 +68,14 @@ TEST(PorConveniencia, quienYaLaMuestraGanaYLuegoElMasUsado) {
   ClienteDeTmux const mudo{"/dev/pts/14", "$1", 999, true};
   EXPECT_EQ(porConveniencia({mudo, ajenoViejo, ajeno, suyo, suyoDelGrupo}, vistas),
             (std::vector{suyoDelGrupo, suyo, ajeno, ajenoViejo, mudo}));
+}
+
+TEST(PorConveniencia, quienSostieneOtraSesionNoSeMueve) {
+  std::vector<PaneDeTmux> const vistas{{"/dev/pts/3", "$1", "@2", "%3"}};
+  ClienteDeTmux const otra{"/dev/pts/10", "$0", 900, false, true};
+  ClienteDeTmux const esta{"/dev/pts/11", "$1", 100, false, true};
+  EXPECT_EQ(porConveniencia({otra, esta}, vistas), std::vector{esta});
+  EXPECT_TRUE(porConveniencia({otra}, vistas).empty());
 }
 
 TEST(VistaPara, laDeLaSesionDelClienteOLaPrimera) {
