@@ -152,8 +152,8 @@ class EnUnTty : public testing::Test {
 };
 
 TEST_F(EnUnTty, unValorHostilDeTmuxNoCorreNada) {
-  tmux("touch \"$HOME/X\"");
-  auto const toca = "touch " + carpeta.dentro("X");
+  tmux(": >\"$HOME/X\"");
+  auto const toca = ": >" + carpeta.dentro("X");
   for (auto const& valor : {"$(" + toca + "),1,0", "`" + toca + "`", "; " + toca, std::string{"-c,1,0"},
                             std::string{"/etc/passwd,1,0"}, std::string{"\x1b]0;x\x07,1,0"}}) {
     auto const corrida = enfocar(valor);
