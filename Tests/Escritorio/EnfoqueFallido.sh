@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # A running session that cannot come to the front: its process ends, its pid belongs to another, its terminal is gone,
 # its tmux server or the window manager hangs. Return shows one message, and the panel stays and answers meanwhile.
+# A terminal that hangs detains nobody.
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
 escritorio vacia
@@ -22,6 +23,7 @@ servidor_tmux=$(en_tmux display-message -p '#{pid}')
 hijos+=("$servidor_tmux")
 registra 4 parada
 arranca quieta xterm -geometry 40x8+700+420 -e "$casa/bin/claude" quieta
+terminal_quieta=$ultimo
 registra 5 quieta
 zorve
 
@@ -71,6 +73,16 @@ kill "$terminal_colgada"
 espera terminado "$terminal_colgada"
 elige 3 colgada
 solo_avisa
+
+# A stopped terminal comes to the front as it is; what is typed waits for it.
+kill -STOP "$terminal_quieta"
+elige 5 quieta
+xdotool key Return
+espera no panel_visible
+xdotool type "hola "
+kill -CONT "$terminal_quieta"
+xdotool key a Return
+espera termina_en quieta "hola a"
 
 elige 5 quieta
 kill -STOP "$gestor_pid"
