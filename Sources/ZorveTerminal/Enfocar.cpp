@@ -4,16 +4,18 @@
 #include <chrono>
 #include <thread>
 
-#include "ZorveCore/Escape.h"
-#include "ZorveCore/TextoVisible.h"
 #include "ZorvePlatform/Linux/SesionGraficaLinux.h"
-#include "ZorveTerminal/ProcesosDelTty.h"
+#include "ZorveTerminal/BusquedaPorMarca.h"
+#include "ZorveTerminal/EleccionDeVentana.h"
+#include "ZorveTerminal/FrasesDeEnfoque.h"
+#include "ZorveTerminal/Pestanas.h"
+#include "ZorveTerminal/SesionEnTty.h"
 
 namespace zorve {
 
 namespace {
 
-constexpr std::chrono::milliseconds plazoDeLaVentana{4000};
+constexpr std::chrono::milliseconds plazoDeLaVentana{2500};
 constexpr std::chrono::milliseconds entreIntentos{100};
 constexpr int vecesQueSeInsiste = 10;
 
@@ -24,37 +26,48 @@ std::uint64_t ventanaEscrita(std::string const& texto) {
 }
 
 /// Asks again for a moment: a shell may run before its window is shown.
-template <class Buscar>
-auto insistir(Buscar const& buscar) {
-  auto hallada = buscar();
-  for (int i = 0; i < vecesQueSeInsiste && !hallada; ++i) {
+std::vector<Ventana> ventanasDeLaSesion(Ventanas const& ventanas, SesionEnTty const& sesion) {
+  auto suyas = delMasCercano(ventanas.todas(), sesion.ascendencia);
+  for (int i = 0; i < vecesQueSeInsiste && suyas.empty(); ++i) {
     std::this_thread::sleep_for(entreIntentos);
-    hallada = buscar();
+    suyas = delMasCercano(ventanas.todas(), sesion.ascendencia);
   }
-  return hallada;
+  return suyas;
+}
+
+/// The session's window, with its tab shown where the terminal can be made to.
+std::expected<std::uint64_t, std::string> mostrar(FichaDeTerminal const& ficha, SesionEnTty const& sesion,
+                                                  Ventanas const& ventanas) {
+  auto const suyas = ventanasDeLaSesion(ventanas, sesion);
+  if (suyas.empty()) return std::unexpected{fraseNoEsta(ficha, sesion.tty)};
+  auto const modo = modoDeEnfoque(ficha.identificador);
+  auto const pestanas = modo.pestanas != nullptr ? modo.pestanas(sesion) : nullptr;
+  auto const mostrada = pestanas ? pestanas->mostrar() : Mostrada::noSabe;
+  if (mostrada == Mostrada::calla) return std::unexpected{fraseNoContesta(ficha, sesion.tty)};
+
+  auto propia = pestanas ? pestanas->ventana() : 0;
+  if (propia == 0) propia = ventanaEscrita(sesion.variable("WINDOWID"));
+  auto const ventana = ventanaDe(suyas, sesion.ascendencia, propia);
+  auto const recorrer = mostrada == Mostrada::noSabe && pestanas && pestanas->recorre() &&
+                        sesionesDe(suyas.front().pid).size() != 1;
+  if (ventana && !recorrer) return *ventana;
+  if (!modo.admiteMarca) return std::unexpected{fraseVarias(ficha, sesion.tty)};
+  return buscarPorMarca(
+      ficha, sesion, ventanas,
+      {.pestanas = recorrer ? pestanas.get() : nullptr, .estaALaVista = mostrada == Mostrada::si});
 }
 
 }  // namespace
 
-std::string frase(SinVentana porque, FichaDeTerminal const& ficha, std::string const& tty) {
-  auto const donde = textoVisible(ttyCorto(tty));
-  if (porque == SinVentana::varias) {
-    return "Zorve found several " + ficha.nombre + " windows and cannot tell which one shows " + donde + ".";
-  }
-  return "Zorve found no " + ficha.nombre + " session on " + donde +
-         ". The Claude session is still alive, but its window no longer exists.";
-}
-
 std::expected<void, std::string> enfocar(FichaDeTerminal const& ficha, std::string const& tty) {
-  auto const lider = liderDelTty(tty);
-  if (!lider) return std::unexpected{frase(SinVentana::ninguna, ficha, tty)};
+  auto const sesion = sesionEnTty(tty);
+  if (!sesion) return std::unexpected{fraseNoEsta(ficha, tty)};
   auto const ventanas = ventanasDe(sesionGraficaDelProceso());
   if (!ventanas || !ventanas->abierta()) return std::unexpected{std::string{"the desktop cannot be reached"}};
-  auto const propia = ventanaEscrita(variableDelProceso(lider->pid, "WINDOWID"));
-  auto const ventana = insistir([&] { return ventanaDe(ventanas->todas(), ascendencia(*lider), propia); });
-  if (!ventana) return std::unexpected{frase(ventana.error(), ficha, tty)};
+  auto const ventana = mostrar(ficha, *sesion, *ventanas);
+  if (!ventana) return std::unexpected{ventana.error()};
   if (ventanas->activar(*ventana, plazoDeLaVentana)) return {};
-  return std::unexpected{"the window manager did not bring the " + ficha.nombre + " window to the front"};
+  return std::unexpected{fraseNoVino(ficha)};
 }
 
 }  // namespace zorve

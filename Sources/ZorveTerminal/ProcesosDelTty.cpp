@@ -20,6 +20,8 @@ namespace zorve {
 namespace {
 
 constexpr std::size_t generacionesComoMucho = 64;
+/// Between tty_nr and starttime (proc(5)).
+constexpr int camposHastaElInicio = 14;
 
 /// What can be read of a file of /proc; nothing of a process that ends meanwhile.
 std::string leer(std::string const& ruta) {
@@ -56,6 +58,18 @@ dev_t dispositivo(std::string const& tty) {
   return S_ISCHR(estado.st_mode) ? estado.st_rdev : 0;
 }
 
+/// Every process that leads a session on a terminal device.
+std::vector<Proceso> todosLosLideres() {
+  std::vector<Proceso> lideres;
+  std::error_code error;
+  for (auto const& entrada : std::filesystem::directory_iterator{"/proc", error}) {
+    auto const pid = numero(entrada.path().filename().native());
+    auto const proceso = pid ? procesoVivo(*pid) : std::nullopt;
+    if (proceso && proceso->tty != 0 && proceso->sesion == proceso->pid) lideres.push_back(*proceso);
+  }
+  return lideres;
+}
+
 }  // namespace
 
 std::optional<Proceso> leerStat(std::string const& texto) {
@@ -67,6 +81,9 @@ std::optional<Proceso> leerStat(std::string const& texto) {
   pid_t grupo = 0;
   Proceso proceso{.pid = *pid};
   if (!(resto >> estado >> proceso.padre >> grupo >> proceso.sesion >> proceso.tty)) return std::nullopt;
+  std::string otro;
+  for (int i = 0; i < camposHastaElInicio; ++i) resto >> otro;
+  if (!(resto >> proceso.inicio)) proceso.inicio = 0;
   return proceso;
 }
 
@@ -77,13 +94,16 @@ std::optional<Proceso> procesoVivo(pid_t pid) {
 std::optional<Proceso> liderDelTty(std::string const& tty) {
   auto const cual = dispositivo(tty);
   if (cual == 0) return std::nullopt;
-  std::error_code error;
-  for (auto const& entrada : std::filesystem::directory_iterator{"/proc", error}) {
-    auto const pid = numero(entrada.path().filename().native());
-    auto const proceso = pid ? procesoVivo(*pid) : std::nullopt;
-    if (proceso && proceso->tty == cual && proceso->sesion == proceso->pid) return proceso;
-  }
-  return std::nullopt;
+  auto const lideres = todosLosLideres();
+  auto const lider = std::ranges::find(lideres, cual, &Proceso::tty);
+  return lider != lideres.end() ? std::optional{*lider} : std::nullopt;
+}
+
+std::vector<Proceso> sesionesDe(pid_t anfitrion) {
+  auto lideres = todosLosLideres();
+  std::erase_if(lideres, [anfitrion](auto const& lider) { return lider.padre != anfitrion; });
+  std::ranges::sort(lideres, {}, &Proceso::inicio);
+  return lideres;
 }
 
 std::vector<pid_t> ascendencia(Proceso const& proceso) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,6 +16,8 @@ struct Proceso {
   pid_t sesion = 0;
   /// The device number of its terminal, 0 for none.
   dev_t tty = 0;
+  /// When it started, in ticks since the system did; 0 when that is not told.
+  std::uint64_t inicio = 0;
   bool operator==(Proceso const&) const = default;
 };
 
@@ -28,6 +31,10 @@ struct Proceso {
 /// The process that leads the session on the terminal device `tty` (with or without "/dev/"); nothing when
 /// there is no such device or no such process.
 [[nodiscard]] std::optional<Proceso> liderDelTty(std::string const& tty);
+
+/// The leaders of sessions on terminal devices that are children of the process, the eldest first: what a
+/// terminal shows.
+[[nodiscard]] std::vector<Proceso> sesionesDe(pid_t anfitrion);
 
 /// The process and those that it descends from, itself first, at most 64.
 [[nodiscard]] std::vector<pid_t> ascendencia(Proceso const& proceso);

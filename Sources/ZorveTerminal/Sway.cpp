@@ -1,17 +1,14 @@
 #include "ZorveTerminal/Sway.h"
 
 #include <simdjson.h>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstdlib>
 #include <cstring>
-#include <span>
 #include <utility>
+
+#include "ZorveTerminal/EnchufeLocal.h"
 
 namespace zorve {
 
@@ -66,35 +63,9 @@ std::vector<Ventana> recoger(Nodo const& raiz) {
   return ventanas;
 }
 
-bool escribirTodo(int enchufe, std::string_view texto) {
-  while (!texto.empty()) {
-    auto const n = ::send(enchufe, texto.data(), texto.size(), MSG_NOSIGNAL);
-    if (n < 0 && errno == EINTR) continue;
-    if (n <= 0) return false;
-    texto.remove_prefix(static_cast<std::size_t>(n));
-  }
-  return true;
-}
-
-bool leerTodo(int enchufe, std::span<char> destino) {
-  while (!destino.empty()) {
-    auto const n = ::read(enchufe, destino.data(), destino.size());
-    if (n < 0 && errno == EINTR) continue;
-    if (n <= 0) return false;
-    destino = destino.subspan(static_cast<std::size_t>(n));
-  }
-  return true;
-}
-
-Descriptor conectar(char const* ruta) {
-  sockaddr_un direccion{};
-  direccion.sun_family = AF_UNIX;
-  if (ruta == nullptr || std::strlen(ruta) >= sizeof direccion.sun_path) return {};
-  std::strncpy(direccion.sun_path, ruta, sizeof direccion.sun_path - 1);
-  Descriptor enchufe{::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)};
-  auto const* const generica = reinterpret_cast<sockaddr const*>(&direccion);
-  if (!enchufe) return {};
-  return ::connect(enchufe.numero(), generica, sizeof direccion) == 0 ? std::move(enchufe) : Descriptor{};
+std::string_view rutaDelEnchufe() {
+  char const* const ruta = std::getenv("SWAYSOCK");  // NOLINT(concurrency-mt-unsafe): one thread
+  return ruta != nullptr ? ruta : "";
 }
 
 }  // namespace
@@ -106,7 +77,7 @@ std::vector<Ventana> ventanasDelArbol(std::string_view arbol) {
   return recoger(raiz);
 }
 
-Sway::Sway() : enchufe_{conectar(std::getenv("SWAYSOCK"))} {}  // NOLINT(concurrency-mt-unsafe): one thread
+Sway::Sway() : enchufe_{conectarA(rutaDelEnchufe())} {}
 
 bool Sway::abierta() const { return static_cast<bool>(enchufe_); }
 
@@ -124,13 +95,12 @@ std::optional<std::string> Sway::preguntar(std::uint32_t tipo, std::string_view 
   mensaje.append(reinterpret_cast<char const*>(&tipo), sizeof tipo);
   mensaje += texto;
   std::array<char, largoDeCabecera> cabecera{};
-  if (!escribirTodo(enchufe_.numero(), mensaje) || !leerTodo(enchufe_.numero(), cabecera))
-    return std::nullopt;
+  if (!escribirTodo(enchufe_, mensaje) || !leerTodo(enchufe_, cabecera)) return std::nullopt;
   std::uint32_t cuantos = 0;
   std::memcpy(&cuantos, &cabecera[magia.size()], sizeof cuantos);
   if (cuantos > maximoDeRespuesta) return std::nullopt;
   std::string respuesta(cuantos, '\0');
-  return leerTodo(enchufe_.numero(), respuesta) ? std::optional{std::move(respuesta)} : std::nullopt;
+  return leerTodo(enchufe_, respuesta) ? std::optional{std::move(respuesta)} : std::nullopt;
 }
 
 }  // namespace zorve

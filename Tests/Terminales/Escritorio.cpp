@@ -96,6 +96,7 @@ Escritorio::Escritorio(Pantalla pantalla, std::string const& gestorDeVentanas)
   std::filesystem::permissions(casa_.dentro("r"), std::filesystem::perms{0700});
   casa_.carpeta("anotados");
   casa_.carpeta("teclas");
+  casa_.carpeta(".config");
   std::string claude{claudeDePrueba};
   for (auto i = claude.find(laCasa); i != std::string::npos; i = claude.find(laCasa)) {
     claude.replace(i, laCasa.size(), casa_.ruta());
@@ -107,7 +108,7 @@ Escritorio::Escritorio(Pantalla pantalla, std::string const& gestorDeVentanas)
       {"LANG", "C.UTF-8"},    {"XDG_RUNTIME_DIR", casa_.dentro("r")},   {"LIBGL_ALWAYS_SOFTWARE", "1"},
       {"NO_AT_BRIDGE", "1"},  {"GSETTINGS_BACKEND", "memory"}};
   std::filesystem::copy_file(ZORVE_TERMINAL, casa_.dentro("zorve-terminal"));
-  for (auto const* const carpeta : {"", "r", "anotados", "teclas"}) {
+  for (auto const* const carpeta : {"", "r", "anotados", "teclas", ".config"}) {
     if (::geteuid() == 0 && ::chown(casa_.dentro(carpeta).c_str(), usuarioOrdinario, usuarioOrdinario) != 0) {
       throw std::runtime_error("chown failed");
     }

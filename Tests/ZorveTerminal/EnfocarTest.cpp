@@ -1,4 +1,4 @@
-#include "ZorveTerminal/Enfocar.h"
+#include "ZorveTerminal/EleccionDeVentana.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -54,6 +54,8 @@ TEST(VentanasDelArbol, loQueNoSeEntiendeNoTieneVentanas) {
 TEST(LeerStat, elNombreDelProcesoPuedeSerCualquiera) {
   EXPECT_EQ(leerStat("12 (a) b (c)) S 3 4 5 34816 7"), (Proceso{12, 3, 5, 34816}));
   EXPECT_EQ(leerStat("12 (tmux: server) S 1 12 12 0 -1"), (Proceso{12, 1, 12, 0}));
+  EXPECT_EQ(leerStat("12 (a) S 3 4 5 34816 8 9 10 11 12 13 14 15 16 17 18 19 20 21 987654321012 23"),
+            (Proceso{12, 3, 5, 34816, 987654321012}));
 }
 
 TEST(LeerStat, loQueNoSeEntiendeNoEsUnProceso) {
@@ -80,6 +82,8 @@ TEST(ProcesosDelTty, elLiderDeLaSesionDeUnDispositivoYSuAscendencia) {
   ASSERT_GE(todos.size(), 2U);
   EXPECT_EQ(todos[0], pid);
   EXPECT_EQ(todos[1], ::getpid());
+  EXPECT_EQ(sesionesDe(::getpid()), std::vector{*lider});
+  EXPECT_TRUE(sesionesDe(pid).empty());
 }
 
 TEST(ProcesosDelTty, loQueNoEsUnaTerminalNoTieneLider) {

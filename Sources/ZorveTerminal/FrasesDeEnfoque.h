@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "ZorveCore/FichaDeTerminal.h"
+
+namespace zorve {
+
+/// Sentences for a person about the session on `tty` (with or without "/dev/").
+
+/// Its window is gone.
+[[nodiscard]] std::string fraseNoEsta(FichaDeTerminal const& ficha, std::string const& tty);
+/// It may be in any of several windows.
+[[nodiscard]] std::string fraseVarias(FichaDeTerminal const& ficha, std::string const& tty);
+/// Its terminal is silent.
+[[nodiscard]] std::string fraseNoContesta(FichaDeTerminal const& ficha, std::string const& tty);
+/// Its window was found, but the keyboard did not follow.
+[[nodiscard]] std::string fraseNoVino(FichaDeTerminal const& ficha);
+
+}  // namespace zorve

@@ -1,0 +1,147 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "Terminales/Sesiones.h"
+
+namespace zorve::pruebas {
+namespace {
+
+using namespace std::chrono_literals;
+using Palabras = std::vector<std::string>;
+
+/// Starts one more session in a tab or split of the first session's window, as a person would.
+using AbrirPestana = bool (*)(Sesiones& sesiones);
+
+bool pestanaDeKonsole(Sesiones& s) {
+  auto const servicio = "--dest=" + s.variableDe(0, "KONSOLE_DBUS_SERVICE");
+  Palabras const llamada{"dbus-send", "--session", "--type=method_call", "--print-reply=literal", servicio};
+  auto const llamar = [&](Palabras const& resto) {
+    auto todas = llamada;
+    todas.insert(todas.end(), resto.begin(), resto.end());
+    return s.escritorio.correr(todas);
+  };
+  auto const nueva = llamar({s.variableDe(0, "KONSOLE_DBUS_WINDOW"), "org.kde.konsole.Window.newSession"});
+  EXPECT_EQ(nueva.codigo, 0) << nueva.error;
+  auto const numero = std::to_string(std::stoi(nueva.salida.substr(nueva.salida.find_last_of(' ') + 1)));
+  auto const puesta = llamar({"/Sessions/" + numero, "org.kde.konsole.Session.runCommand",
+                              "string:" + s.escritorio.casa().dentro("propios/claude")});
+  return puesta.codigo == 0;
+}
+
+/// Inside the first session's window the terminal finds by its variables where a tab belongs.
+Palabras desdeLaPrimera(Sesiones const& s, Palabras const& nombres, Palabras const& palabras) {
+  Palabras todas{"env"};
+  for (auto const& nombre : nombres) todas.push_back(nombre + "=" + s.variableDe(0, nombre));
+  todas.insert(todas.end(), palabras.begin(), palabras.end());
+  todas.push_back(s.escritorio.casa().dentro("propios/claude"));
+  return todas;
+}
+
+bool pestanaDeGnomeTerminal(Sesiones& s) {
+  return s.hacer(desdeLaPrimera(s, {"GNOME_TERMINAL_SCREEN", "GNOME_TERMINAL_SERVICE"},
+                                {"gnome-terminal", "--tab", "--"}));
+}
+
+bool pestanaDeKgx(Sesiones& s) { return s.hacer(desdeLaPrimera(s, {}, {"kgx", "--tab", "--"})); }
+
+bool pestanaDeTilix(Sesiones& s) {
+  return s.hacer(desdeLaPrimera(s, {"TILIX_ID"}, {"tilix", "--action=app-new-session", "-e"}));
+}
+
+bool mitadDeTilix(Sesiones& s) {
+  return s.hacer(desdeLaPrimera(s, {"TILIX_ID"}, {"tilix", "--action=session-add-right", "-e"}));
+}
+
+Palabras conKitty(Sesiones const& s, std::string const& tipo) {
+  return desdeLaPrimera(
+      s, {}, {"kitty", "@", "--to", s.variableDe(0, "KITTY_LISTEN_ON"), "launch", "--type=" + tipo});
+}
+bool pestanaDeKitty(Sesiones& s) { return s.hacer(conKitty(s, "tab")); }
+bool mitadDeKitty(Sesiones& s) { return s.hacer(conKitty(s, "window")); }
+
+struct Caso {
+  std::string nombre;
+  std::string identificador;
+  AbrirPestana abrirPestana;
+};
+
+void PrintTo(Caso const& caso, std::ostream* salida) { *salida << caso.nombre; }
+
+/// A window with two tabs (or splits), and a second window.
+class Pestanas : public testing::TestWithParam<Caso> {
+ protected:
+  [[nodiscard]] bool abrirlas() {
+    if (!estaAqui(*fichaDeLinux(GetParam().identificador))) return false;
+    s.escritorio.casa().escribir(".config/kitty/kitty.conf",
+                                 "allow_remote_control yes\nlisten_on unix:@zorve-prueba-{kitty_pid}\n");
+    return s.abrirVentana() && GetParam().abrirPestana(s) && s.esperarOtra() && s.abrirVentana();
+  }
+
+  [[nodiscard]] std::string titulos() const {
+    std::string todos;
+    for (auto const& ventana : s.ventanasDeX()) {
+      todos += s.escritorio.correr({"xprop", "-id", ventana, "_NET_WM_NAME"}).salida;
+    }
+    return todos;
+  }
+
+  Sesiones s{*fichaDeLinux(GetParam().identificador), Escritorio::Pantalla::x11};
+};
+
+Caso const konsole{"Konsole", "org.kde.konsole", pestanaDeKonsole};
+Caso const gnomeTerminal{"GnomeTerminal", "org.gnome.Terminal", pestanaDeGnomeTerminal};
+Caso const kgx{"Kgx", "org.gnome.Console", pestanaDeKgx};
+Caso const tilix{"Tilix", "com.gexperts.Tilix", pestanaDeTilix};
+Caso const enTilix{"MitadDeTilix", "com.gexperts.Tilix", mitadDeTilix};
+Caso const kitty{"Kitty", "kitty", pestanaDeKitty};
+Caso const enKitty{"MitadDeKitty", "kitty", mitadDeKitty};
+
+INSTANTIATE_TEST_SUITE_P(Linux, Pestanas,
+                         testing::Values(konsole, gnomeTerminal, kgx, tilix, enTilix, kitty, enKitty),
+                         [](auto const& caso) { return caso.param.nombre; });
+
+/// The same with the terminal's process stopped.
+class TerminalDetenida : public Pestanas {};
+
+INSTANTIATE_TEST_SUITE_P(Linux, TerminalDetenida, testing::Values(konsole, gnomeTerminal, kgx, tilix, kitty),
+                         [](auto const& caso) { return caso.param.nombre; });
+
+TEST_P(Pestanas, laTeclaLlegaALaPestanaEnfocadaYLosTitulosVuelven) {
+  if (!abrirlas()) return;
+  s.laTeclaLlegaSoloA(0, "a");
+  s.laTeclaLlegaSoloA(2, "b");
+  s.laTeclaLlegaSoloA(1, "c");
+  ASSERT_TRUE(s.hacer({"xdotool", "getactivewindow", "windowminimize"}));
+  s.laTeclaLlegaSoloA(0, "d");
+  ASSERT_TRUE(s.hacer({"xdotool", "set_desktop", "1"}));
+  s.laTeclaLlegaSoloA(1, "e");
+  s.laTeclaLlegaSoloA(2, "f");
+  EXPECT_TRUE(esperarA([&] { return !titulos().contains("zorve-"); }, 5s)) << titulos();
+}
+
+TEST_P(TerminalDetenida, seDiceEnUnaFraseYDespuesSeEnfocaComoAntes) {
+  if (!abrirlas()) return;
+  auto const anfitrion = s.anfitrionDe(0);
+  ASSERT_GT(anfitrion, 1);
+  ASSERT_EQ(::kill(anfitrion, SIGSTOP), 0);
+  auto const empieza = std::chrono::steady_clock::now();
+  auto const corrida = s.enfocar(0);
+  auto const tardo = std::chrono::steady_clock::now() - empieza;
+  EXPECT_EQ(::kill(anfitrion, SIGCONT), 0);
+  EXPECT_LT(tardo, 10s);
+  EXPECT_EQ(corrida.codigo, 1);
+  EXPECT_EQ(corrida.error, "zorve-terminal: " + fichaDeLinux(GetParam().identificador)->nombre +
+                               " does not answer, so its session on " + s.sesiones[0].tty.substr(5) +
+                               " could not be shown. Try again when it responds.\n");
+  s.laTeclaLlegaSoloA(1, "a");
+  s.laTeclaLlegaSoloA(0, "b");
+}
+
+}  // namespace
+}  // namespace zorve::pruebas
