@@ -41,12 +41,15 @@ bool puedeEnfocarse(FichaDeTerminal const& ficha) {
   return std::ranges::find(ficha.enfocableEn, sesionGraficaDelProceso()) != ficha.enfocableEn.end();
 }
 
+/// A server is the parent of whatever leads one of its panes. Farther up it says nothing: a terminal that was
+/// started from a pane is no pane.
 Anfitriona anfitrionaDe(std::string const& tty) {
   auto const lider = liderDelTty(tty);
   if (!lider) return {};
+  if (nombreDelProceso(lider->padre) == nombreDelServidor) return OtroTmux{};
   for (auto const pid : ascendencia(*lider)) {
     auto const nombre = nombreDelProceso(pid);
-    if (nombre == nombreDelServidor) return OtroTmux{};
+    if (nombre == nombreDelServidor) return {};
     auto const ficha = std::ranges::find_if(fichasDeLinux(), [&](FichaDeTerminal const& una) {
       return std::ranges::find(una.procesos, nombre) != una.procesos.end();
     });
@@ -98,6 +101,8 @@ class Enfoque {
   [[nodiscard]] Hecho pane(std::string const& tty, int nivel) const;
 
  private:
+  /// No server shows it: a terminal that none of ours hosts was started from a pane. The chosen one tries.
+  [[nodiscard]] Hecho fueraDeTmux(std::string const& tty, Proceso const& lider) const;
   [[nodiscard]] Hecho porSusClientes(ServidorDeTmux const& servidor, std::string const& tty,
                                      std::span<PaneDeTmux const> vistas, int nivel) const;
   [[nodiscard]] Hecho porCliente(ServidorDeTmux const& servidor, ClienteDeTmux const& cliente,
@@ -115,7 +120,7 @@ Hecho Enfoque::pane(std::string const& tty, int nivel) const {
   if (!lider) return noEsta(tty);
   auto const escrito = variableDelProceso(lider->pid, "TMUX");
   auto const enchufe = enchufePropio(escrito.empty() ? enchufeDeCostumbre(entorno_) : escrito);
-  if (!enchufe && escrito.empty()) return noEsta(tty);
+  if (!enchufe && escrito.empty()) return fueraDeTmux(tty, *lider);
   if (!enchufe) {
     return std::unexpected{"The tmux server of " + visible(tty) +
                            " cannot be reached: its socket is not one of yours. Look for the session where "
@@ -129,8 +134,14 @@ Hecho Enfoque::pane(std::string const& tty, int nivel) const {
   auto vistas = servidor.panes();
   if (!vistas) return std::unexpected{vistas.error()};
   std::erase_if(*vistas, [&](PaneDeTmux const& una) { return ttyCorto(una.tty) != ttyCorto(tty); });
-  if (vistas->empty()) return noEsta(tty);
+  if (vistas->empty()) return fueraDeTmux(tty, *lider);
   return porSusClientes(servidor, tty, *vistas, nivel);
+}
+
+Hecho Enfoque::fueraDeTmux(std::string const& tty, Proceso const& lider) const {
+  bool const esPane = nombreDelProceso(lider.padre) == nombreDelServidor;
+  if (esPane || elegida_ == nullptr || !puedeEnfocarse(*elegida_)) return noEsta(tty);
+  return enfocar(*elegida_, tty);
 }
 
 Hecho Enfoque::porSusClientes(ServidorDeTmux const& servidor, std::string const& tty,

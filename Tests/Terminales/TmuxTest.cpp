@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <csignal>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -223,6 +224,25 @@ TEST_F(ConTmux, unClienteSinVentanaAquiSeDiceYSigueDondeEstaba) {
   EXPECT_EQ(tmux({"list-clients", "-F", "#{client_session}"}).salida, "uno\n");
   cliente("xterm", "uno");
   enfocadaLaTeclaLlegaSoloA(dos, "a");
+}
+
+TEST_F(ConTmux, unaTerminalDesconocidaQueEmpezoEnUnPaneNoEsUnPane) {
+  auto const uno = pane({"new-session", "-d", "-s", "uno"});
+  auto const otraterm = escritorio.casa().dentro("propios/otraterm");
+  std::filesystem::copy_file("/usr/bin/xterm", otraterm);
+  ASSERT_EQ(
+      tmux({"new-window", "-d", "-t", "uno", otraterm + " -e " + escritorio.casa().dentro("propios/claude")})
+          .codigo,
+      0);
+  anotarElNuevo();
+  ASSERT_EQ(tmux({"new-window", "-d", "-t", "uno", otraterm + " -e tmux -S '" + enchufe + "' attach -t uno"})
+                .codigo,
+            0);
+  ASSERT_TRUE(esperarA([&] { return clientes() == 1; }));
+  auto const corrida = enfocar(uno);
+  EXPECT_EQ(corrida.codigo, 1);
+  EXPECT_TRUE(corrida.error.contains("in no window that Zorve can bring to the front here")) << corrida.error;
+  enfocadaLaTeclaLlegaSoloA(1, "a");
 }
 
 TEST_F(ConTmux, unServidorParadoSeDiceAntesDeDiezSegundosYDespuesSirve) {

@@ -131,7 +131,7 @@ class EnUnTty : public testing::Test {
     EXPECT_TRUE(terminal.esperar("]"));
     auto const tty = terminal.pantalla().substr(1, terminal.pantalla().find(']') - 1);
     return dobles::correr(
-        {ZORVE_TERMINAL, "focus", "tmux", tty, "xterm"},
+        {ZORVE_TERMINAL, "focus", "tmux", tty},
         {{"HOME", carpeta.ruta()}, {"PATH", carpeta.carpeta("bin")}, {"DISPLAY", ":65000"}});
   }
   void tmux(std::string const& guion) const {
