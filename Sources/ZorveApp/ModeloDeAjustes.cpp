@@ -15,6 +15,10 @@ FalloDeAjustes falloDe(FalloDeApertura const& fallo) {
   return {FalloDeAjustes::Caso::terminalDesconocida, descripcionDe(fallo)};
 }
 
+bool delSistema(std::expected<TerminalResuelta, FalloDeApertura> const& resuelta) {
+  return resuelta && resuelta->origen == OrigenDeLaTerminal::manejadorDelSistema;
+}
+
 }  // namespace
 
 std::string FalloDeAjustes::banda(Textos const& textos) const {
@@ -34,6 +38,9 @@ struct ModeloDeAjustes::Carga {
   std::vector<TerminalRef> instaladas;
   std::optional<std::string> eleccion;
   std::expected<TerminalResuelta, FalloDeApertura> resuelta;
+  std::optional<std::string> dichoPor;
+  /// Why the saved choice could not be read.
+  std::optional<IndexError> ilegible;
 };
 
 ModeloDeAjustes::ModeloDeAjustes(ColaboradoresDeAjustes con) : con_{std::move(con)} {}
@@ -50,9 +57,15 @@ void ModeloDeAjustes::empezarCarga(std::optional<FalloDeAjustes> reciente) {
   falloReciente_ = std::move(reciente);
   arranqueActivo_.escribir(con_.inicio.activo());
   con_.despachador.enSegundoPlano([vida = std::weak_ptr{vida_}, &principal = con_.despachador,
-                                   numero = ++ultimaCarga_, catalogo = con_.catalogo] {
-    auto carga = std::make_shared<Carga>(
-        Carga{numero, catalogo.instaladas(), catalogo.leerEleccion(), resolverTerminal(catalogo)});
+                                   numero = ++ultimaCarga_, catalogo = con_.catalogo,
+                                   dichoPor = con_.dichoPor, &preferencias = con_.preferencias] {
+    auto carga = std::make_shared<Carga>(Carga{.numero = numero,
+                                               .instaladas = catalogo.instaladas(),
+                                               .eleccion = catalogo.leerEleccion(),
+                                               .resuelta = resolverTerminal(catalogo)});
+    if (delSistema(carga->resuelta)) carga->dichoPor = dichoPor();
+    auto const leida = preferencias.leer(std::string{CatalogoDeTerminales::clavePreferencia});
+    if (!leida) carga->ilegible = leida.error();
     principal.enPrincipal([vida, carga = std::move(carga)] {
       if (auto const modelo = vida.lock()) (*modelo)->terminarCarga(std::move(*carga));
     });
@@ -65,15 +78,15 @@ void ModeloDeAjustes::terminarCarga(Carga carga) {
   instaladas_.escribir(std::move(carga.instaladas));
   eleccion_.escribir(std::move(carga.eleccion));
   resuelta_.escribir(carga.resuelta ? std::optional{*std::move(carga.resuelta)} : std::nullopt);
+  dichoPor_.escribir(std::move(carga.dichoPor));
   cargado_.escribir(true);
 }
 
 void ModeloDeAjustes::escribirFalloDe(Carga const& carga) {
-  if (carga.resuelta) {
-    fallo_.escribir(falloReciente_);
-  } else {
-    fallo_.escribir(falloReciente_.value_or(falloDe(carga.resuelta.error())));
-  }
+  auto fallo = falloReciente_;
+  if (!fallo && carga.ilegible) fallo = delNucleo(*carga.ilegible);
+  if (!fallo && !carga.resuelta) fallo = falloDe(carga.resuelta.error());
+  fallo_.escribir(std::move(fallo));
 }
 
 void ModeloDeAjustes::alternarArranque() {
@@ -102,6 +115,7 @@ std::vector<Suscripcion> ModeloDeAjustes::observar(std::function<void()> const& 
   todas.push_back(instaladas_.observar(observador));
   todas.push_back(eleccion_.observar(observador));
   todas.push_back(resuelta_.observar(observador));
+  todas.push_back(dichoPor_.observar(observador));
   todas.push_back(arranqueActivo_.observar(observador));
   todas.push_back(fallo_.observar(observador));
   todas.push_back(cargado_.observar(observador));

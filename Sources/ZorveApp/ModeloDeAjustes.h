@@ -49,6 +49,9 @@ struct ColaboradoresDeAjustes {
   Despachador& despachador;
   /// The packaged program's version; nothing when it runs from where it was built.
   std::optional<std::string> version;
+  /// Where the system's answer about its terminal comes from, asked in the background; nothing where there is
+  /// only one place.
+  std::function<std::optional<std::string>()> dichoPor = [] { return std::optional<std::string>{}; };
 };
 
 /// The state behind the settings window. Main thread only; the catalogue is asked in the background, since
@@ -67,6 +70,8 @@ class ModeloDeAjustes {
   [[nodiscard]] Observable<std::optional<std::string>> const& eleccion() const { return eleccion_; }
   /// The terminal that would be used now.
   [[nodiscard]] Observable<std::optional<TerminalResuelta>> const& resuelta() const { return resuelta_; }
+  /// Who says which is the system's terminal, where that one would be used and more than one could say so.
+  [[nodiscard]] Observable<std::optional<std::string>> const& dichoPor() const { return dichoPor_; }
   [[nodiscard]] Observable<bool> const& arranqueActivo() const { return arranqueActivo_; }
   [[nodiscard]] Observable<std::optional<FalloDeAjustes>> const& fallo() const { return fallo_; }
   /// Whether the first load has ended: before it, nothing is known of terminals.
@@ -98,6 +103,7 @@ class ModeloDeAjustes {
   Observable<std::vector<TerminalRef>> instaladas_;
   Observable<std::optional<std::string>> eleccion_;
   Observable<std::optional<TerminalResuelta>> resuelta_;
+  Observable<std::optional<std::string>> dichoPor_;
   Observable<bool> arranqueActivo_;
   Observable<std::optional<FalloDeAjustes>> fallo_;
   Observable<bool> cargado_;

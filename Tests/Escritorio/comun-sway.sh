@@ -41,7 +41,7 @@ teclado() {
 # ventana_de_sway APP_ID WIDTH HEIGHT: that window as one line of JSON.
 ventana_de_sway() {
   swaymsg -r -t get_tree | jq -ec --arg a "$1" --argjson w "$2" --argjson h "$3" \
-    'first(.. | objects | select(.app_id? == $a and .geometry.width == $w and .geometry.height == $h))'
+    'first(.. | objects | select(.app_id? == $a and .window_rect.width == $w and .window_rect.height == $h))'
 }
 panel_en_sway() { ventana_de_sway com.sarnol.zorve 440 560; }
 ajustes_en_sway() { ventana_de_sway com.sarnol.zorve 620 460; }

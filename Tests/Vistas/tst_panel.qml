@@ -19,6 +19,8 @@ Item {
         property var leyenda: [{ simbolo: "flechas", tecla: "", palabra: "move" }, { simbolo: "", tecla: "Ctrl+R", palabra: "refresh" }]
         property string ayudaAjustes: "Settings (Ctrl+,)"
         property string nombreAjustes: "Settings"
+        property string nombreDelCampo: "Search"
+        property string nombreDeLaLista: "Sessions"
         property int ajustesPedidos: 0
         property int filaPedida: -1
         signal cambio

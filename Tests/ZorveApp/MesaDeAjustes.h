@@ -32,7 +32,8 @@ class MesaDeAjustes : public ::testing::Test {
         .inicio = inicio,
         .idioma = idioma,
         .despachador = despachador,
-        .version = std::move(version)});
+        .version = std::move(version),
+        .dichoPor = [this] { return dichoPor; }});
   }
   void cargar() {
     modelo->cargar();
@@ -53,6 +54,7 @@ class MesaDeAjustes : public ::testing::Test {
       dobles::terminalFija({.identificador = "com.uno", .nombre = "Uno"}),
       dobles::terminalFija({.identificador = "com.dos", .nombre = "Dos", .puedeEnfocar = false})};
   std::shared_ptr<std::optional<std::string>> manejador = std::make_shared<std::optional<std::string>>();
+  std::optional<std::string> dichoPor;
   dobles::PreferenciasEnMemoria preferencias;
   PreferenciaDeIdioma idioma{preferencias};
   dobles::InicioDePrueba inicio;

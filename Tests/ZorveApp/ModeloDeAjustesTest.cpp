@@ -211,5 +211,26 @@ TEST_F(ModeloDeAjustesTest, laVersionEsLaDelPaqueteOElTextoDelIdioma) {
   EXPECT_EQ(modelo->version(), "sin empaquetar");
 }
 
+TEST_F(ModeloDeAjustesTest, loQueNoSePuedeLeerSeDiceAlCargar) {
+  *manejador = "com.uno";
+  preferencias.fallarCon(IndexError{IndexSource::launcher, "the settings are damaged"});
+  cargar();
+  EXPECT_EQ(*modelo->fallo(), (FalloDeAjustes{FalloDeAjustes::Caso::deNucleo, "the settings are damaged"}));
+  ASSERT_TRUE(modelo->resuelta()->has_value());
+  preferencias.fallarCon(std::nullopt);
+  cargar();
+  EXPECT_EQ(*modelo->fallo(), std::nullopt);
+}
+
+TEST_F(ModeloDeAjustesTest, seSabeQuienDiceLaDelSistemaSoloCuandoEsLaQueSeUsa) {
+  dichoPor = "$TERMINAL";
+  hacerDeNuevo();
+  *manejador = "com.uno";
+  cargar();
+  EXPECT_EQ(*modelo->dichoPor(), "$TERMINAL");
+  elegirYCargar("com.dos");
+  EXPECT_EQ(*modelo->dichoPor(), std::nullopt);
+}
+
 }  // namespace
 }  // namespace zorve

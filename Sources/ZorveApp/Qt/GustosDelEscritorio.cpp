@@ -4,6 +4,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <algorithm>
 
 #include "ZorveApp/Qt/X11.h"
@@ -39,6 +40,13 @@ void GustosDelEscritorio::preguntar() {
   if (!bus.isConnected()) return;
   bus.connect(QString::fromLatin1(servicio), QString::fromLatin1(ruta), QString::fromLatin1(interfaz),
               QStringLiteral("SettingChanged"), this, SLOT(alCambiar(QString, QString, QDBusVariant)));
+  auto* const vigia = new QDBusServiceWatcher{QString::fromLatin1(servicio), bus,
+                                              QDBusServiceWatcher::WatchForRegistration, this};
+  connect(vigia, &QDBusServiceWatcher::serviceRegistered, this, &GustosDelEscritorio::leerTodo);
+  leerTodo();
+}
+
+void GustosDelEscritorio::leerTodo() {
   leer(apariencia, "color-scheme");
   leer(apariencia, "contrast");
   leer(apariencia, "reduced-motion");

@@ -16,7 +16,7 @@ class GustosDelEscritorio final : public QObject {
  public:
   explicit GustosDelEscritorio(QObject* padre = nullptr);
 
-  /// Asks without waiting; `cambio` tells of answers that differ.
+  /// Asks without waiting, now and whenever the portal comes up; `cambio` tells of answers. Once.
   void preguntar();
 
   [[nodiscard]] bool claro() const { return claro_; }
@@ -29,6 +29,7 @@ class GustosDelEscritorio final : public QObject {
   void alCambiar(QString const& espacio, QString const& clave, QDBusVariant const& valor);
 
  private:
+  void leerTodo();
   void leer(char const* espacio, char const* clave);
   void anotar(QString const& espacio, QString const& clave, QVariant const& valor);
 

@@ -4,6 +4,7 @@
 
 #include "ZorveApp/Qt/Conversiones.h"
 #include "ZorveApp/Qt/Etiquetas.h"
+#include "ZorveApp/Qt/TextosPropios.h"
 #include "ZorveApp/TextosDeEscritorio.h"
 
 namespace zorve {
@@ -29,7 +30,7 @@ QVariantMap aMapa(Grupo const& grupo) {
 
 PuenteDeAjustes::PuenteDeAjustes(VistaAjustes& vista, ModeloDeAjustes& modelo,
                                  PreferenciaDeIdioma const& idioma, QObject* padre)
-    : QObject{padre}, vista_{vista}, modelo_{modelo} {
+    : QObject{padre}, vista_{vista}, modelo_{modelo}, idioma_{idioma} {
   porAvisar_.setSingleShot(true);
   connect(&porAvisar_, &QTimer::timeout, this, &PuenteDeAjustes::cambio);
   suscripciones_ = modelo_.observar([this] { anotarCambio(); });
@@ -73,6 +74,12 @@ QVariantList PuenteDeAjustes::grupos() const {
 }
 
 QString PuenteDeAjustes::texto() const { return etiqueta(contenido().texto); }
+QString PuenteDeAjustes::pie() const {
+  auto const& fuente = *modelo_.dichoPor();
+  if (!fuente || *modelo_.seccion() != SeccionDeAjustes::terminal) return {};
+  return TextosPropios::quienDiceLaTerminal(*idioma_.idioma(), enUnaLinea(*fuente));
+}
+
 QString PuenteDeAjustes::nombreYVersion() const { return etiqueta(vista_.acercaDe().nombreYVersion); }
 QString PuenteDeAjustes::paraCerrar() const { return etiqueta(vista_.acercaDe().paraCerrar); }
 

@@ -17,6 +17,7 @@ class PuenteDeAjustes final : public QObject {
   Q_PROPERTY(QString banda READ banda NOTIFY cambio)
   Q_PROPERTY(QVariantList grupos READ grupos NOTIFY cambio)
   Q_PROPERTY(QString texto READ texto NOTIFY cambio)
+  Q_PROPERTY(QString pie READ pie NOTIFY cambio)
   Q_PROPERTY(QString nombreYVersion READ nombreYVersion NOTIFY cambio)
   Q_PROPERTY(QString paraCerrar READ paraCerrar NOTIFY cambio)
 
@@ -34,6 +35,8 @@ class PuenteDeAjustes final : public QObject {
   [[nodiscard]] QVariantList grupos() const;
   /// What stands alone where the chosen section has nothing to choose.
   [[nodiscard]] QString texto() const;
+  /// Who says which is the system's terminal, under the options; empty in other sections.
+  [[nodiscard]] QString pie() const;
   [[nodiscard]] QString nombreYVersion() const;
   [[nodiscard]] QString paraCerrar() const;
 
@@ -49,6 +52,7 @@ class PuenteDeAjustes final : public QObject {
 
   VistaAjustes& vista_;
   ModeloDeAjustes& modelo_;
+  PreferenciaDeIdioma const& idioma_;
   QTimer porAvisar_;
   std::vector<Suscripcion> suscripciones_;
 };

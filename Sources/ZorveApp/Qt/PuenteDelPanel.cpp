@@ -31,7 +31,7 @@ QVariantMap lineaDeBanda(QString const& texto, bool esError) {
 
 PuenteDelPanel::PuenteDelPanel(ModeloDeVista& modelo, PanelView& panel, PreferenciaDeIdioma const& idioma,
                                QObject* padre)
-    : QObject{padre}, modelo_{modelo}, panel_{panel}, filas_{panel} {
+    : QObject{padre}, modelo_{modelo}, panel_{panel}, idioma_{idioma}, filas_{panel} {
   porAvisar_.setSingleShot(true);
   connect(&porAvisar_, &QTimer::timeout, this, &PuenteDelPanel::actualizar);
   suscripciones_ = modelo_.observar([this] { anotarCambio(); });

@@ -9,6 +9,7 @@
 
 #include "ZorveApp/PanelView.h"
 #include "ZorveApp/Qt/FilasQt.h"
+#include "ZorveApp/Qt/TextosPropios.h"
 
 namespace zorve {
 
@@ -25,6 +26,8 @@ class PuenteDelPanel final : public QObject {
   Q_PROPERTY(QVariantList leyenda READ leyenda NOTIFY textosCambio)
   Q_PROPERTY(QString ayudaAjustes READ ayudaAjustes NOTIFY textosCambio)
   Q_PROPERTY(QString nombreAjustes READ nombreAjustes NOTIFY textosCambio)
+  Q_PROPERTY(QString nombreDelCampo READ nombreDelCampo NOTIFY textosCambio)
+  Q_PROPERTY(QString nombreDeLaLista READ nombreDeLaLista NOTIFY textosCambio)
 
  public:
   /// Everything referenced outlives this object.
@@ -44,6 +47,9 @@ class PuenteDelPanel final : public QObject {
   [[nodiscard]] QVariantList leyenda() const;
   [[nodiscard]] QString ayudaAjustes() const;
   [[nodiscard]] QString nombreAjustes() const;
+  /// For screen readers.
+  [[nodiscard]] QString nombreDelCampo() const { return TextosPropios::campoDeBusqueda(*idioma_.idioma()); }
+  [[nodiscard]] QString nombreDeLaLista() const { return TextosPropios::listaDeSesiones(*idioma_.idioma()); }
 
   Q_INVOKABLE void escribirConsulta(QString const& texto);
   Q_INVOKABLE void clicEnFila(int posicion);
@@ -66,6 +72,7 @@ class PuenteDelPanel final : public QObject {
 
   ModeloDeVista& modelo_;
   PanelView& panel_;
+  PreferenciaDeIdioma const& idioma_;
   FilasQt filas_;
   QVariantList banda_;
   QString avisoPropio_;

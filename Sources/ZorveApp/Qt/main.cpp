@@ -113,7 +113,10 @@ struct Programa {
                                    .inicio = mundo.inicio,
                                    .idioma = mundo.idioma,
                                    .despachador = mundo.despachador,
-                                   .version = version(mundo.ejecutable)}};
+                                   .version = version(mundo.ejecutable),
+                                   .dichoPor = [de = &mundo] {
+                                     return de->manejador.dichoPor(CatalogoDeTerminales::tipoDeGuionDeShell);
+                                   }}};
   VistaAjustes ajustes{modeloDeAjustes, mundo.idioma, modificadorPrincipal};
   DelegadoQt delegado{{modelo, panel, estado, ajustes, modeloDeAjustes, mundo.idioma, mundo.despachador,
                        mundo.banderas, *mundo.activacion}};

@@ -20,6 +20,8 @@ Item {
             textFormat: Text.PlainText
             font { pointSize: estilo.letraDeTitulo; weight: Font.Medium }
             color: estilo.textoAlto
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
@@ -27,6 +29,8 @@ Item {
             textFormat: Text.PlainText
             font.pointSize: estilo.letraDeNota
             color: estilo.textoTenue
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 }

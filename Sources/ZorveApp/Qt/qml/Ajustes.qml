@@ -71,6 +71,19 @@ Escalado {
                 wrapMode: Text.Wrap
                 font.pointSize: estilo.letraDeOpcion
                 color: estilo.textoTenue
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+            Text {
+                width: parent.width
+                visible: text.length > 0
+                text: ajustes.pie
+                textFormat: Text.PlainText
+                wrapMode: Text.Wrap
+                font.pointSize: estilo.letraDeNota
+                color: estilo.textoTenue
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
         }
     }

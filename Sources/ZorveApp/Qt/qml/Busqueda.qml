@@ -29,6 +29,7 @@ FocusScope {
         maximumLength: 2000
         cursorDelegate: Cursor {}
         Accessible.role: Accessible.EditableText
+        Accessible.name: panel.nombreDelCampo
         Accessible.searchEdit: true
 
         onTextEdited: panel.escribirConsulta(text)

@@ -20,8 +20,10 @@ Item {
     height: estilo.altoDeFila
     Accessible.role: Accessible.ListItem
     Accessible.name: fila.titulo
-    Accessible.description: fila.ayuda
+    Accessible.description: [palabra, ruta.replace(/\u200e/g, ""), tiempo, conteo, ayuda].filter(dicho => dicho.length > 0).join(", ")
+    Accessible.selectable: true
     Accessible.selected: seleccionada
+    Accessible.onPressAction: pulsada()
 
     Rectangle {
         anchors { fill: parent; leftMargin: estilo.sangriaDeSeleccion; rightMargin: estilo.sangriaDeSeleccion }

@@ -12,6 +12,8 @@ Item {
     ListView {
         id: lista
         objectName: "filas"
+        Accessible.role: Accessible.List
+        Accessible.name: panel.nombreDeLaLista
         anchors.fill: parent
         topMargin: 4
         bottomMargin: 4
@@ -58,6 +60,8 @@ Item {
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
             text: panel.marcador
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
             textFormat: Text.PlainText
             font.pointSize: estilo.letraDeTitulo
             color: estilo.textoTenue

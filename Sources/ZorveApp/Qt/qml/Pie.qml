@@ -47,6 +47,8 @@ Item {
         anchors { left: leyenda.right; leftMargin: 12; right: engranaje.left; rightMargin: 10; verticalCenter: parent.verticalCenter }
         text: panel.terminal
         textFormat: Text.PlainText
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
         elide: Text.ElideRight
         maximumLineCount: 1
         horizontalAlignment: Text.AlignRight
