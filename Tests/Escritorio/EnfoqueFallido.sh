@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # A running session that cannot come to the front: its process ends, its pid belongs to another, its terminal is gone,
 # its tmux server or the window manager hangs. Return shows one message, and the panel stays and answers meanwhile.
-# A terminal that hangs detains nobody.
+# A terminal that hangs is said where it must be asked for its tab, and comes to the front as it is elsewhere.
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
 escritorio vacia
@@ -25,6 +25,9 @@ registra 4 parada
 arranca quieta xterm -geometry 40x8+700+420 -e "$casa/bin/claude" quieta
 terminal_quieta=$ultimo
 registra 5 quieta
+arranca sorda konsole -e "$casa/bin/claude" sorda
+terminal_sorda=$ultimo
+registra 6 sorda
 zorve
 
 avisa() { panel_visible && hay_color "$(panel)" '#2dd4bf' 20x60+16+62; }
@@ -73,6 +76,18 @@ kill "$terminal_colgada"
 espera terminado "$terminal_colgada"
 elige 3 colgada
 solo_avisa
+
+kill -STOP "$terminal_sorda"
+elige 6 sorda
+xdotool key Return
+responde
+espera se_queja
+kill -CONT "$terminal_sorda"
+cierra
+elige 6 sorda
+xdotool key Return
+espera no panel_visible
+llega sorda b
 
 # A stopped terminal comes to the front as it is; what is typed waits for it.
 kill -STOP "$terminal_quieta"

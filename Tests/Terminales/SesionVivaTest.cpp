@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Terminales/Escritorio.h"
+#include "ZorveTerminal/ProcesosDelTty.h"
 
 namespace zorve::pruebas {
 namespace {
@@ -39,8 +40,9 @@ class SesionViva : public testing::Test {
                                                               escritorio.casa().ruta() + "\"}\n");
   }
   /// A window of xterm with a session in it.
-  Anotado enXterm() {
-    auto const corrida = escritorio.ayudante({"open", "xterm", escritorio.casa().ruta(), "claude"});
+  Anotado enXterm() { return enVentanaDe("xterm"); }
+  Anotado enVentanaDe(std::string const& terminal) {
+    auto const corrida = escritorio.ayudante({"open", terminal, escritorio.casa().ruta(), "claude"});
     EXPECT_EQ(corrida.codigo, 0) << corrida.error;
     return laNueva();
   }
@@ -145,6 +147,13 @@ TEST_F(SesionViva, siElServidorDeTmuxNoContestaSeDice) {
   registrar(enTmux().pid);
   parar(std::stoi(escritorio.correr({"tmux", "-S", enchufe, "display-message", "-p", "#{pid}"}).salida));
   abrirDice("The tmux server on " + enchufe + " did not answer");
+}
+
+TEST_F(SesionViva, siLaTerminalALaQueHayQuePreguntarNoContestaSeDice) {
+  auto const una = enVentanaDe("org.kde.konsole");
+  registrar(una.pid);
+  parar(liderDelTty(una.tty).value_or(Proceso{}).padre);
+  abrirDice("Konsole does not answer, so its session on " + una.tty.substr(5) + " could not be shown.");
 }
 
 TEST_F(SesionViva, siElGestorDeVentanasNoContestaSeDice) {
