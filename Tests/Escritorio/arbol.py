@@ -20,7 +20,7 @@ def estados(nodo):
 
 
 def cuenta(nodo, hondo):
-    if not nodo.get_state_set().contains(Atspi.StateType.SHOWING) and hondo > 0:
+    if not nodo.get_state_set().contains(Atspi.StateType.VISIBLE) and hondo > 0:
         return
     descripcion = nodo.get_description()
     partes = ["  " * hondo + nodo.get_role_name(), '"' + nodo.get_name() + '"']

@@ -1,6 +1,6 @@
 # shellcheck shell=bash
+# shellcheck disable=SC2154 # comun.sh sets them
 # What the tests of desktop settings and screen readers share beside comun.sh.
-: "${aqui:?comun.sh first}" "${casa:?comun.sh first}"
 
 # portal: the desktop's settings as programs ask for them, kept by gsettings. No file-sharing service beside it.
 portal() {
@@ -27,3 +27,13 @@ dice() { arbol && sed 's/^ *//' "$casa/arbol" | grep -xF -- "$1"; }
 # dice_algo REGEX: some line of it matches.
 dice_algo() { arbol && grep -E -- "$1" "$casa/arbol"; }
 pulsa_opcion() { "$aqui/arbol.py" zorve pulsa "$1"; }
+
+# con_pocas_terminales: the program, where only xterm and kitty are installed and $TERMINAL names xterm.
+con_pocas_terminales() {
+  mkdir -p "$casa/pocas"
+  ln -sf "$(command -v xterm)" "$(command -v kitty)" "$casa/pocas"
+  arranca zorve env PATH="$casa/pocas" XDG_DATA_DIRS="$casa/nada" TERMINAL=xterm "$bin/zorve"
+  # shellcheck disable=SC2034 # the tests read it
+  zorve_pid=$ultimo
+  espera tiene_nombre com.sarnol.zorve
+}
