@@ -61,6 +61,7 @@ std::string descripcionDe(FalloDeApertura const& fallo) {
 
 std::expected<TerminalResuelta, FalloDeApertura> resolverTerminal(CatalogoDeTerminales const& catalogo) {
   try {
+    if (catalogo.mirarElManejador) catalogo.mirarElManejador();
     auto resuelta = catalogo.resolver();
     if (!resuelta) return std::unexpected{FalloDeApertura{std::move(resuelta.error())}};
     return *std::move(resuelta);

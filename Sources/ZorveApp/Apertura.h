@@ -34,7 +34,8 @@ struct ResultadoDeApertura {
 /// Texts are in the language of `peticion.textos`. Any thread but the main one.
 [[nodiscard]] ResultadoDeApertura abrirSesion(PeticionDeApertura const& peticion);
 
-/// Asks the catalogue; what its functions throw becomes a failure. Any thread but the main one.
+/// Has the system's terminal looked up and asks the catalogue; what its functions throw becomes a failure.
+/// Any thread but the main one.
 [[nodiscard]] std::expected<TerminalResuelta, FalloDeApertura> resolverTerminal(
     CatalogoDeTerminales const& catalogo);
 

@@ -121,7 +121,8 @@ CatalogoDeTerminales catalogoDelSistema(std::vector<TerminalRef> conocidas,
                                         Preferencias const& preferencias) {
   return {.conocidas = std::move(conocidas),
           .manejadorDelSistema = [&manejador] { return manejadorRegistrado(manejador); },
-          .leerEleccion = [&preferencias] { return eleccionGuardada(preferencias); }};
+          .leerEleccion = [&preferencias] { return eleccionGuardada(preferencias); },
+          .mirarElManejador = [&manejador] { manejador.mirar(); }};
 }
 
 std::vector<TerminalRef> todas(AplicacionesInstaladas const& aplicaciones) {

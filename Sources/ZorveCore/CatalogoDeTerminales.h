@@ -47,6 +47,8 @@ struct CatalogoDeTerminales {
   std::function<std::optional<std::string>()> manejadorDelSistema;
   /// The saved choice, or nothing.
   std::function<std::optional<std::string>()> leerEleccion;
+  /// Looks up what `manejadorDelSistema` hands over, where that takes time; may be absent.
+  std::function<void()> mirarElManejador = {};
 
   [[nodiscard]] std::vector<TerminalRef> instaladas() const;
   /// Decides from the choice, the handler, the only one installed, in this order. Fails with source

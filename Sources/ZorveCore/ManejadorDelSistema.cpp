@@ -2,6 +2,8 @@
 
 namespace zorve {
 
+void ManejadorDelSistema::mirar() const {}
+
 std::optional<std::string> ManejadorDelSistema::dichoPor(std::string_view /*tipo*/) const {
   return std::nullopt;
 }

@@ -56,4 +56,10 @@ TEST_P(ContratoDelManejador, preguntarDosVecesDaLoMismo) {
   EXPECT_EQ(suyo->aplicacionPara(tipoConocido), suyo->aplicacionPara(tipoConocido));
 }
 
+TEST_P(ContratoDelManejador, mirarOtraVezNoCambiaLoQueNoHaCambiado) {
+  auto const suyo = sistema("kitty");
+  suyo->mirar();
+  EXPECT_EQ(suyo->aplicacionPara(tipoConocido), "kitty");
+}
+
 }  // namespace zorve::contratos

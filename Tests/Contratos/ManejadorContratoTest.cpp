@@ -13,6 +13,7 @@ std::unique_ptr<ManejadorDelSistema> fijo(dobles::CarpetaTemporal const& /*carpe
 }
 
 LugaresDelManejador lugares(dobles::CarpetaTemporal const& carpeta) {
+  std::filesystem::permissions(carpeta.escribir("bin/kitty", "#!/bin/sh\n"), std::filesystem::perms{0755});
   return {.entorno = {.home = carpeta.ruta(), .path = {carpeta.dentro("bin")}, .configHome = carpeta.ruta()},
           .escritorio = "",
           .terminal = "",

@@ -198,6 +198,18 @@ TEST_F(AperturaTest, unaAperturaQueResuelvePoneLaTerminalYQuitaSuError) {
   EXPECT_TRUE(error());
 }
 
+TEST_F(AperturaTest, cadaCargaYCadaAperturaMiranElManejadorEnSegundoPlano) {
+  enDisco({sesionDe("a")});
+  modelo->refrescar();
+  EXPECT_EQ(*miradas, 0) << "not on the main thread";
+  despachador.correrTodo();
+  EXPECT_EQ(*miradas, 1);
+  modelo->abrirSeleccionada();
+  EXPECT_EQ(*miradas, 1);
+  despachador.correrTodo();
+  EXPECT_EQ(*miradas, 2);
+}
+
 TEST_F(AperturaTest, loQueLanceElCatalogoEsUnFalloYNoElFinDelPrograma) {
   auto con = colaboradores();
   con.catalogo.leerEleccion = []() -> std::optional<std::string> { throw std::runtime_error{"boom"}; };

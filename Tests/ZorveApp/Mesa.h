@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <memory>
 #include <optional>
 #include <string>
@@ -68,7 +69,8 @@ class Mesa : public ::testing::Test {
     return {.cargar = [disco = disco] { return *disco; },
             .catalogo = {.conocidas = *conocidas,
                          .manejadorDelSistema = [manejador = manejador] { return *manejador; },
-                         .leerEleccion = [eleccion = eleccion] { return *eleccion; }},
+                         .leerEleccion = [eleccion = eleccion] { return *eleccion; },
+                         .mirarElManejador = [miradas = miradas] { ++*miradas; }},
             .ejecutor = ejecutor,
             .portapapeles = portapapeles,
             .despachador = despachador,
@@ -80,6 +82,8 @@ class Mesa : public ::testing::Test {
       std::vector<TerminalRef>{dobles::terminalFija({.identificador = "uno", .nombre = "Uno"})});
   std::shared_ptr<std::optional<std::string>> manejador = std::make_shared<std::optional<std::string>>();
   std::shared_ptr<std::optional<std::string>> eleccion = std::make_shared<std::optional<std::string>>();
+  /// How often the system's terminal was looked up.
+  std::shared_ptr<std::atomic<int>> miradas = std::make_shared<std::atomic<int>>(0);
   dobles::PreferenciasEnMemoria preferencias;
   PreferenciaDeIdioma idioma{preferencias};
   dobles::EjecutorGuionado ejecutor;

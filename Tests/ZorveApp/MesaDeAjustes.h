@@ -27,7 +27,8 @@ class MesaDeAjustes : public ::testing::Test {
     modelo = std::make_unique<ModeloDeAjustes>(ColaboradoresDeAjustes{
         .catalogo = {.conocidas = conocidas,
                      .manejadorDelSistema = [manejador = manejador] { return *manejador; },
-                     .leerEleccion = [this] { return eleccionGuardada(preferencias); }},
+                     .leerEleccion = [this] { return eleccionGuardada(preferencias); },
+                     .mirarElManejador = [this] { ++miradas; }},
         .preferencias = preferencias,
         .inicio = inicio,
         .idioma = idioma,
@@ -55,6 +56,8 @@ class MesaDeAjustes : public ::testing::Test {
       dobles::terminalFija({.identificador = "com.dos", .nombre = "Dos", .puedeEnfocar = false})};
   std::shared_ptr<std::optional<std::string>> manejador = std::make_shared<std::optional<std::string>>();
   std::optional<std::string> dichoPor;
+  /// How often the system's terminal was looked up.
+  int miradas = 0;
   dobles::PreferenciasEnMemoria preferencias;
   PreferenciaDeIdioma idioma{preferencias};
   dobles::InicioDePrueba inicio;

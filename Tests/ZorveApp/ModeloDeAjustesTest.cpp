@@ -21,6 +21,13 @@ TEST_F(ModeloDeAjustesTest, naceSinSaberNada) {
   EXPECT_FALSE(*modelo->cargado());
 }
 
+TEST_F(ModeloDeAjustesTest, cadaCargaMiraElManejadorEnSegundoPlano) {
+  modelo->cargar();
+  EXPECT_EQ(miradas, 0) << "not on the main thread";
+  despachador.correrTodo();
+  EXPECT_EQ(miradas, 1);
+}
+
 TEST_F(ModeloDeAjustesTest, lasSeccionesVanEnSuOrden) {
   EXPECT_EQ(todosLosCasos<SeccionDeAjustes>(),
             (std::array{SeccionDeAjustes::general, SeccionDeAjustes::terminal, SeccionDeAjustes::acercaDe}));

@@ -120,7 +120,8 @@ TEST(EntradaDeEscritorio, cualquierTextoSeAguanta) {
 class Variables {
  public:
   explicit Variables(std::map<std::string, std::string> const& unas) {
-    for (auto const* nombre : {"PATH", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_DATA_DIRS"}) {
+    for (auto const* nombre :
+         {"PATH", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "XDG_DATA_HOME", "XDG_DATA_DIRS"}) {
       char const* valor = std::getenv(nombre);
       if (valor != nullptr) antes_[nombre] = valor;
       ::unsetenv(nombre);
@@ -130,7 +131,8 @@ class Variables {
   Variables(Variables const&) = delete;
   Variables& operator=(Variables const&) = delete;
   ~Variables() {
-    for (auto const* nombre : {"PATH", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_DATA_DIRS"})
+    for (auto const* nombre :
+         {"PATH", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "XDG_DATA_HOME", "XDG_DATA_DIRS"})
       ::unsetenv(nombre);
     for (auto const& [nombre, valor] : antes_) ::setenv(nombre.c_str(), valor.c_str(), 1);
   }
@@ -145,26 +147,34 @@ TEST(EntornoLinux, sinVariablesRigenLosLugaresAcostumbrados) {
             (EntornoLinux{.home = "/h",
                           .path = {"/usr/local/bin", "/usr/bin", "/bin", "/h/.local/bin"},
                           .configHome = "/h/.config",
+                          .configDirs = {"/etc/xdg"},
                           .datos = {"/h/.local/share", "/usr/local/share", "/usr/share"}}));
 }
 
 TEST(EntornoLinux, lasRutasRelativasYVaciasNoCuentan) {
   Variables const unas{{{"PATH", ":/a::.:b:/c:"},
                         {"XDG_CONFIG_HOME", "config"},
+                        {"XDG_CONFIG_DIRS", "x:/y:/z"},
                         {"XDG_DATA_HOME", "datos"},
                         {"XDG_DATA_DIRS", "x:/d"}}};
   EXPECT_EQ(EntornoLinux::delProceso("/h"), (EntornoLinux{.home = "/h",
                                                           .path = {"/a", "/c", "/h/.local/bin"},
                                                           .configHome = "/h/.config",
+                                                          .configDirs = {"/y", "/z"},
                                                           .datos = {"/h/.local/share", "/d"}}));
 }
 
 TEST(EntornoLinux, lasVariablesAbsolutasMandan) {
-  Variables const unas{
-      {{"PATH", "/a"}, {"XDG_CONFIG_HOME", "/c"}, {"XDG_DATA_HOME", "/d"}, {"XDG_DATA_DIRS", "/e"}}};
-  EXPECT_EQ(EntornoLinux::delProceso("/h"),
-            (EntornoLinux{
-                .home = "/h", .path = {"/a", "/h/.local/bin"}, .configHome = "/c", .datos = {"/d", "/e"}}));
+  Variables const unas{{{"PATH", "/a"},
+                        {"XDG_CONFIG_HOME", "/c"},
+                        {"XDG_CONFIG_DIRS", "/f"},
+                        {"XDG_DATA_HOME", "/d"},
+                        {"XDG_DATA_DIRS", "/e"}}};
+  EXPECT_EQ(EntornoLinux::delProceso("/h"), (EntornoLinux{.home = "/h",
+                                                          .path = {"/a", "/h/.local/bin"},
+                                                          .configHome = "/c",
+                                                          .configDirs = {"/f"},
+                                                          .datos = {"/d", "/e"}}));
 }
 
 }  // namespace

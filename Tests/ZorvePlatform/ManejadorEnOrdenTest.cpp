@@ -6,6 +6,7 @@
 #include <string>
 
 #include "Dobles/CarpetaTemporal.h"
+#include "ZorveCore/CatalogoDeTerminales.h"
 #include "ZorvePlatform/Linux/ManejadorLinux.h"
 
 namespace zorve {
@@ -16,6 +17,12 @@ using Fuente = FuenteDelManejador;
 
 class ManejadorEnOrden : public testing::Test {
  protected:
+  ManejadorEnOrden() {
+    for (auto const* const terminal :
+         {"xterm", "foot", "gnome-terminal", "konsole", "alacritty", "tilix", "kitty", "xfce4-terminal"}) {
+      programa(terminal, "");
+    }
+  }
   void programa(std::string const& nombre, std::string const& guion) const {
     auto const ruta = carpeta.escribir("bin/" + nombre, "#!/bin/sh\n" + guion + "\n");
     std::filesystem::permissions(ruta, std::filesystem::perms{0755});
@@ -23,12 +30,14 @@ class ManejadorEnOrden : public testing::Test {
   [[nodiscard]] std::optional<TerminalDelSistema> buscar() const { return ManejadorLinux{lugares}.buscar(); }
 
   dobles::CarpetaTemporal carpeta;
-  LugaresDelManejador lugares{
-      .entorno = {.home = carpeta.ruta(), .path = {carpeta.dentro("bin")}, .configHome = carpeta.ruta()},
-      .escritorio = "",
-      .terminal = "",
-      .enlace = carpeta.dentro("enlace"),
-      .plazo = 1000ms};
+  LugaresDelManejador lugares{.entorno = {.home = carpeta.ruta(),
+                                          .path = {carpeta.dentro("bin")},
+                                          .configHome = carpeta.ruta(),
+                                          .configDirs = {carpeta.dentro("xdg/a"), carpeta.dentro("xdg/b")}},
+                              .escritorio = "",
+                              .terminal = "",
+                              .enlace = carpeta.dentro("enlace"),
+                              .plazo = 1000ms};
 };
 
 TEST_F(ManejadorEnOrden, sinNadaNoHayRespuesta) { EXPECT_EQ(buscar(), std::nullopt); }
@@ -66,6 +75,34 @@ TEST_F(ManejadorEnOrden, soloCuentaElGrupoGeneralDeKde) {
   EXPECT_EQ(buscar(), std::nullopt);
   carpeta.escribir("kdeglobals", "[General]\r\n TerminalApplication[$e] = /usr/bin/konsole \r\n");
   EXPECT_EQ(buscar(), (TerminalDelSistema{"org.kde.konsole", Fuente::kdeglobals}));
+}
+
+TEST_F(ManejadorEnOrden, unaRespuestaSinInstalarPasaALaSiguiente) {
+  carpeta.escribir("kdeglobals", "[General]\nTerminalApplication=konsole\n");
+  lugares.terminal = "foot";
+  std::filesystem::remove(carpeta.dentro("bin/konsole"));
+  EXPECT_EQ(buscar(), (TerminalDelSistema{"foot", Fuente::terminal}));
+}
+
+TEST_F(ManejadorEnOrden, losAjustesDelSistemaDeKdeValenDondeLaPersonaCalla) {
+  carpeta.escribir("xdg/b/kdeglobals", "[General]\nTerminalApplication=xterm\n");
+  EXPECT_EQ(buscar(), (TerminalDelSistema{"xterm", Fuente::kdeglobals}));
+  carpeta.escribir("xdg/a/kdeglobals", "[General]\nTerminalApplication=kitty\n");
+  EXPECT_EQ(buscar(), (TerminalDelSistema{"kitty", Fuente::kdeglobals}));
+  carpeta.escribir("kdeglobals", "[General]\nTerminalApplication=konsole\n");
+  EXPECT_EQ(buscar(), (TerminalDelSistema{"org.kde.konsole", Fuente::kdeglobals}));
+}
+
+TEST_F(ManejadorEnOrden, lasRespuestasSonLasDeLaUltimaMirada) {
+  programa("xdg-terminal-exec", "echo una >>" + carpeta.dentro("veces") + "; echo foot.desktop");
+  ManejadorLinux const manejador{lugares};
+  manejador.mirar();
+  programa("xdg-terminal-exec", "echo kitty.desktop");
+  EXPECT_EQ(manejadorRegistrado(manejador), "foot");
+  EXPECT_EQ(manejador.dichoPor(CatalogoDeTerminales::tipoDeGuionDeShell), "xdg-terminal-exec");
+  EXPECT_EQ(std::filesystem::file_size(carpeta.dentro("veces")), 4U) << "it ran once";
+  manejador.mirar();
+  EXPECT_EQ(manejadorRegistrado(manejador), "kitty");
 }
 
 TEST_F(ManejadorEnOrden, cadaEscritorioTieneSuEsquema) {

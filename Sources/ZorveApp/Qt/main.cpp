@@ -77,11 +77,9 @@ struct Mundo {
   InicioDeSesionLinux inicio{entorno, ejecutable};
   BanderasDeUsuario banderas{preferencias};
   PreferenciaDeIdioma idioma{preferencias};
-  CatalogoDeTerminales catalogo{
-      .conocidas = terminalesDeLinux(aplicaciones, rutaDelAyudante(ejecutable), sesionGraficaDelProceso()),
-      .manejadorDelSistema =
-          [this] { return manejador.aplicacionPara(CatalogoDeTerminales::tipoDeGuionDeShell); },
-      .leerEleccion = [this] { return eleccionGuardada(preferencias); }};
+  CatalogoDeTerminales catalogo = catalogoDelSistema(
+      terminalesDeLinux(aplicaciones, rutaDelAyudante(ejecutable), sesionGraficaDelProceso()), manejador,
+      preferencias);
 
   [[nodiscard]] IndexResult cargar() {
     return SessionIndex::construir(archivos, procesos, SessionIndex::ubicacionesPorDefecto(home));

@@ -52,6 +52,7 @@ EntornoLinux EntornoLinux::delProceso(std::string const& home) {
   entorno.path = absolutasO(variable("PATH"), "/usr/local/bin:/usr/bin:/bin");
   if (home.starts_with('/')) entorno.path.push_back(unirRuta(home, ".local/bin"));
   entorno.configHome = absolutaO(variable("XDG_CONFIG_HOME"), unirRuta(home, ".config"));
+  entorno.configDirs = absolutasO(variable("XDG_CONFIG_DIRS"), "/etc/xdg");
   entorno.datos = absolutasO(variable("XDG_DATA_DIRS"), "/usr/local/share:/usr/share");
   entorno.datos.insert(entorno.datos.begin(),
                        absolutaO(variable("XDG_DATA_HOME"), unirRuta(home, ".local/share")));

@@ -13,6 +13,8 @@ struct EntornoLinux {
   /// a desktop often misses.
   std::vector<std::string> path;
   std::string configHome;
+  /// Where the system's own settings are, the most important place first.
+  std::vector<std::string> configDirs = {};
   /// Where applications leave their data, the user's own first.
   std::vector<std::string> datos;
   bool operator==(EntornoLinux const&) const = default;

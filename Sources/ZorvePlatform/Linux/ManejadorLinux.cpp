@@ -4,12 +4,15 @@
 #include <array>
 #include <cstdlib>
 #include <filesystem>
+#include <ranges>
 #include <utility>
 #include <vector>
 
 #include "ZorveCore/Archivos.h"
 #include "ZorveCore/CatalogoDeTerminales.h"
 #include "ZorveCore/FichaDeTerminal.h"
+#include "ZorvePlatform/Linux/AjusteDeKde.h"
+#include "ZorvePlatform/Linux/AplicacionesLinux.h"
 #include "ZorvePlatform/Linux/ProgramaAcotado.h"
 #include "ZorvePlatform/Posix/LeerArchivo.h"
 
@@ -60,27 +63,24 @@ std::optional<std::string> segunXdgTerminalExec(LugaresDelManejador const& lugar
   return salida ? terminalDeLaEntrada(sinBlancos(*salida)) : std::nullopt;
 }
 
-/// The value of a key in a group of an ini-like text, without the markers in brackets behind keys.
-std::string_view valorEnGrupo(std::string_view texto, std::string_view grupo, std::string_view clave) {
-  bool dentro = false;
-  while (!texto.empty()) {
-    auto const largo = std::min(texto.find('\n'), texto.size());
-    auto const linea = sinBlancos(texto.substr(0, largo));
-    texto.remove_prefix(std::min(largo + 1, texto.size()));
-    if (linea.starts_with('[')) dentro = linea == grupo;
-    auto const igual = linea.find('=');
-    if (!dentro || igual == std::string_view::npos) continue;
-    if (sinBlancos(linea.substr(0, std::min(igual, linea.find('[')))) == clave) {
-      return sinBlancos(linea.substr(igual + 1));
-    }
+std::optional<std::string> segunKdeglobals(LugaresDelManejador const& lugares) {
+  auto carpetas = lugares.entorno.configDirs;
+  carpetas.insert(carpetas.begin(), lugares.entorno.configHome);
+  std::vector<std::string> textos;
+  for (auto const& carpeta : carpetas | std::views::reverse) {
+    if (auto texto = leerArchivo(unirRuta(carpeta, "kdeglobals"), topeDeAjustes)) textos.push_back(*texto);
   }
-  return {};
+  auto const valor = ajusteDeKde(textos, "General", "TerminalApplication");
+  return valor ? terminalDeLaOrden(*valor) : std::nullopt;
 }
 
-std::optional<std::string> segunKdeglobals(LugaresDelManejador const& lugares) {
-  auto const texto = leerArchivo(unirRuta(lugares.entorno.configHome, "kdeglobals"), topeDeAjustes);
-  if (!texto) return std::nullopt;
-  return terminalDeLaOrden(valorEnGrupo(*texto, "[General]", "TerminalApplication"));
+bool estaInstalada(EntornoLinux const& entorno, std::string const& identificador) {
+  AplicacionesLinux const aplicaciones{entorno};
+  auto const* const ficha = fichaDeLinux(identificador);
+  return ficha != nullptr && (aplicaciones.hay(ficha->identificador) ||
+                              std::ranges::any_of(ficha->programas, [&](std::string const& programa) {
+                                return aplicaciones.hay(programa);
+                              }));
 }
 
 std::string esquemaDe(std::string const& escritorio) {
@@ -126,21 +126,42 @@ ManejadorLinux::ManejadorLinux(LugaresDelManejador lugares) : lugares_{std::move
 ManejadorLinux::ManejadorLinux(std::string enlace)
     : ManejadorLinux{LugaresDelManejador{.enlace = std::move(enlace)}} {}
 
+void ManejadorLinux::mirar() const {
+  auto hallada = buscar();
+  std::lock_guard const turno{candado_};
+  mirada_ = true;
+  hallada_ = std::move(hallada);
+}
+
+std::optional<TerminalDelSistema> ManejadorLinux::ultima() const {
+  {
+    std::lock_guard const turno{candado_};
+    if (mirada_) return hallada_;
+  }
+  mirar();
+  std::lock_guard const turno{candado_};
+  return hallada_;
+}
+
 std::optional<std::string> ManejadorLinux::aplicacionPara(std::string_view tipo) const {
   if (tipo != CatalogoDeTerminales::tipoDeGuionDeShell) return std::nullopt;
-  auto hallada = buscar();
+  auto hallada = ultima();
   return hallada ? std::optional{std::move(hallada->identificador)} : std::nullopt;
 }
 
 std::optional<std::string> ManejadorLinux::dichoPor(std::string_view tipo) const {
   if (tipo != CatalogoDeTerminales::tipoDeGuionDeShell) return std::nullopt;
-  auto const hallada = buscar();
+  auto const hallada = ultima();
   return hallada ? std::optional{std::string{nombreDe(hallada->fuente)}} : std::nullopt;
 }
 
 std::optional<TerminalDelSistema> ManejadorLinux::buscar() const {
   for (auto const fuente : todasLasFuentes) {
-    if (auto identificador = segun(fuente)) return TerminalDelSistema{std::move(*identificador), fuente};
+    auto identificador = segun(fuente);
+    if (!identificador) continue;
+    if (fuente == FuenteDelManejador::enlace || estaInstalada(lugares_.entorno, *identificador)) {
+      return TerminalDelSistema{std::move(*identificador), fuente};
+    }
   }
   return std::nullopt;
 }

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,7 +41,9 @@ struct LugaresDelManejador {
 };
 
 /// The system's terminal: what xdg-terminal-exec prints, KDE's kdeglobals, the GNOME-like setting, $TERMINAL,
-/// the alternatives link. An answer that is no known terminal counts as none. Runs programs, each bounded.
+/// the alternatives link. An answer that is no known terminal, or one that is not installed, counts as none.
+/// Looking runs programs, each bounded; the answers are those of the last look, and of a first one where
+/// there was none yet.
 class ManejadorLinux final : public ManejadorDelSistema {
  public:
   /// All of this process's places, with $HOME as the home.
@@ -50,14 +53,20 @@ class ManejadorLinux final : public ManejadorDelSistema {
   explicit ManejadorLinux(std::string enlace);
 
   /// Any `tipo` but the one of shell scripts has no handler.
+  void mirar() const override;
   [[nodiscard]] std::optional<std::string> aplicacionPara(std::string_view tipo) const override;
   [[nodiscard]] std::optional<std::string> dichoPor(std::string_view tipo) const override;
+  /// Looks, without a word to the other operations.
   [[nodiscard]] std::optional<TerminalDelSistema> buscar() const;
 
  private:
+  [[nodiscard]] std::optional<TerminalDelSistema> ultima() const;
   [[nodiscard]] std::optional<std::string> segun(FuenteDelManejador fuente) const;
 
   LugaresDelManejador lugares_;
+  mutable std::mutex candado_;
+  mutable bool mirada_ = false;
+  mutable std::optional<TerminalDelSistema> hallada_;
 };
 
 /// How a person knows the source ("xdg-terminal-exec", "kdeglobals", "gsettings", "$TERMINAL",
