@@ -10,11 +10,11 @@ preferencias '{"app.zorve.panelMostradoEnPrimerArranque":true,"zorve.avisoDeBand
 en_tmux() { tmux -f /dev/null -S "$casa/run/tmux" "$@"; }
 arranca uno xterm -geometry 40x8+700+20 -e "$casa/bin/claude" uno
 arranca dos xterm -geometry 40x8+700+220 -e "$casa/bin/claude" dos
-en_tmux new-session -d -s t "$casa/bin/claude tres"
+en_tmux new-session -d -s trabajo "$casa/bin/claude tres"
 hijos+=("$(en_tmux display-message -p '#{pid}')")
-en_tmux split-window -t t "$casa/bin/claude cuatro"
-en_tmux new-window -t t "$casa/bin/claude cinco"
-arranca cliente xterm -geometry 60x20+700+420 -e tmux -S "$casa/run/tmux" attach -t t
+en_tmux split-window -t trabajo: "$casa/bin/claude cuatro"
+en_tmux new-window -t trabajo: "$casa/bin/claude cinco"
+arranca cliente xterm -geometry 60x20+700+420 -e tmux -S "$casa/run/tmux" attach -t trabajo
 numero=0
 for nombre in uno dos tres cuatro cinco; do
   numero=$((numero + 1))
@@ -44,7 +44,7 @@ xdotool set_desktop 1
 enfoca 1 uno g
 
 # The client goes: the session lives on, and a new window shows it.
-en_tmux detach-client -s t
+en_tmux detach-client -s trabajo
 espera no hay_cliente
 elige 4 cuatro
 xdotool key Return
