@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Return on a running session brings its own window to the front and the panel goes: two xterms, panes of two tmux
-# sessions, a tmux session that no window shows. A key pressed afterwards arrives there and nowhere else.
+# sessions that share a client, and with no client at all. A key pressed afterwards arrives there and nowhere else.
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
 escritorio vacia
@@ -14,9 +14,10 @@ en_tmux new-session -d -s trabajo "$casa/bin/claude tres"
 hijos+=("$(en_tmux display-message -p '#{pid}')")
 en_tmux split-window -t trabajo: "$casa/bin/claude cuatro"
 en_tmux new-window -t trabajo: "$casa/bin/claude cinco"
+en_tmux new-session -d -s otro "$casa/bin/claude seis"
 arranca cliente xterm -geometry 60x20+700+420 -e tmux -S "$casa/run/tmux" attach -t trabajo
 numero=0
-for nombre in uno dos tres cuatro cinco; do
+for nombre in uno dos tres cuatro cinco seis; do
   numero=$((numero + 1))
   registra "$numero" "$nombre"
 done
@@ -42,6 +43,8 @@ enfoca 4 cuatro e
 enfoca 2 dos f
 xdotool set_desktop 1
 enfoca 1 uno g
+enfoca 6 seis h
+enfoca 4 cuatro i
 
 # The client goes: the session lives on, and a new window shows it.
 en_tmux detach-client -s trabajo
@@ -51,5 +54,5 @@ xdotool key Return
 espera hay_cliente
 espera no panel_visible
 espera con_teclado_una_xterm
-llega cuatro h
+llega cuatro j
 for cada in $(xdotool search --class xterm); do xdotool windowkill "$cada"; done
