@@ -12,10 +12,14 @@ namespace zorve {
 namespace {
 
 /// A name that ends in "*" stands for all that begin so.
-constexpr std::array<std::string_view, 15> ajenas{
-    "WINDOWID",         "TMUX*",      "STY",       "KITTY_*",     "GNOME_TERMINAL_*", "KONSOLE_*",
-    "TILIX_ID",         "WEZTERM_*",  "GHOSTTY_*", "ALACRITTY_*", "VTE_VERSION",      "TERM_PROGRAM*",
-    "SHELL_SESSION_ID", "CLAUDECODE", "ZORVE_*"};
+constexpr std::array<std::string_view, 16> ajenas{"WINDOWID",      "TMUX",
+                                                  "TMUX_PANE",     "STY",
+                                                  "KITTY_*",       "GNOME_TERMINAL_*",
+                                                  "KONSOLE_*",     "TILIX_ID",
+                                                  "WEZTERM_*",     "GHOSTTY_*",
+                                                  "ALACRITTY_*",   "VTE_VERSION",
+                                                  "TERM_PROGRAM*", "SHELL_SESSION_ID",
+                                                  "CLAUDECODE",    "ZORVE_*"};
 
 bool esAjena(std::string_view nombre) {
   return std::ranges::any_of(ajenas, [nombre](std::string_view ajena) {

@@ -26,7 +26,8 @@ TEST(Entorno, quitaLoQueDiceEnQueVentanaSeEsta) {
 }
 
 TEST(Entorno, dejaLosNombresQueSoloSeParecen) {
-  Textos const entorno{"WINDOWID_MIO=1", "MI_TMUX=2", "TILIX_IDS=3", "KITTY=4", "SIN_VALOR"};
+  Textos const entorno{"WINDOWID_MIO=1", "MI_TMUX=2", "TMUX_TMPDIR=/t",
+                       "TILIX_IDS=3",    "KITTY=4",   "SIN_VALOR"};
   EXPECT_EQ(entornoLimpio(entorno), entorno);
 }
 
