@@ -52,7 +52,7 @@ TEST_F(InicioDeSesionLinuxTest, unaCarpetaQueNoSePuedeHacerEsUnFallo) {
   std::ofstream{entorno_.configHome} << "un archivo en su lugar";
   auto const registrado = inicio_.registrar();
   ASSERT_FALSE(registrado);
-  EXPECT_FALSE(registrado.error().empty());
+  EXPECT_EQ(registrado.error(), entorno_.configHome + "/autostart: Not a directory");
   EXPECT_FALSE(inicio_.activo());
 }
 

@@ -104,13 +104,26 @@ QPainterPath acercaDe() {
 
 QPainterPath visto() { return linea({{3.75, 8.5}, {6.75, 11.25}, {12.25, 5}}); }
 
+QPainterPath aro() {
+  QPainterPath trazo;
+  trazo.addEllipse(QPointF{lado / 2, lado / 2}, 7.25, 7.25);
+  return trazo;
+}
+
+QPainterPath caja() {
+  QPainterPath trazo;
+  trazo.addRoundedRect(QRectF{0.75, 0.75, 14.5, 14.5}, 3.5, 3.5);
+  return trazo;
+}
+
 QPainterPath trazoDe(QString const& nombre) {
   static QHash<QString, std::function<QPainterPath()>> const todos{
       {QStringLiteral("lupa"), lupa},         {QStringLiteral("engranaje"), engranaje},
       {QStringLiteral("flechas"), flechas},   {QStringLiteral("retorno"), retorno},
       {QStringLiteral("equis"), equis},       {QStringLiteral("general"), mandos},
       {QStringLiteral("terminal"), terminal}, {QStringLiteral("acercaDe"), acercaDe},
-      {QStringLiteral("visto"), visto}};
+      {QStringLiteral("visto"), visto},       {QStringLiteral("aro"), aro},
+      {QStringLiteral("caja"), caja}};
   auto const dibujo = todos.value(nombre);
   return dibujo ? dibujo() : QPainterPath{};
 }

@@ -55,17 +55,18 @@ bool InicioDeSesionLinux::activo() const {
 
 std::expected<void, std::string> InicioDeSesionLinux::registrar() {
   std::error_code fallo;
-  std::filesystem::create_directories(std::filesystem::path{entrada_}.parent_path(), fallo);
-  if (fallo) return std::unexpected{fallo.message()};
+  auto const carpeta = std::filesystem::path{entrada_}.parent_path();
+  std::filesystem::create_directories(carpeta, fallo);
+  if (fallo) return std::unexpected{carpeta.string() + ": " + fallo.message()};
   auto const escrito = reemplazarArchivo(entrada_, contenido(ejecutable_));
-  if (!escrito) return std::unexpected{std::string{escrito.error().descripcion}};
+  if (!escrito) return std::unexpected{entrada_ + ": " + escrito.error().descripcion};
   return {};
 }
 
 std::expected<void, std::string> InicioDeSesionLinux::retirar() {
   std::error_code fallo;
   std::filesystem::remove(entrada_, fallo);
-  if (fallo) return std::unexpected{fallo.message()};
+  if (fallo) return std::unexpected{entrada_ + ": " + fallo.message()};
   return {};
 }
 

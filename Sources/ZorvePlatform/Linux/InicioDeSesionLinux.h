@@ -8,7 +8,7 @@
 namespace zorve {
 
 /// Start at login by an XDG autostart entry of the user's own, com.sarnol.zorve.desktop. It is active when
-/// the entry is there, is not hidden, and runs a program.
+/// the entry is there, is not hidden, and runs a program. Failures name the file or folder.
 class InicioDeSesionLinux final : public InicioDeSesion {
  public:
   /// `ejecutable` is the absolute path that the entry will run.

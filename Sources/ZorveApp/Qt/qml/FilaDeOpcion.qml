@@ -30,15 +30,23 @@ Rectangle {
     Accessible.onToggleAction: elegida()
 
     Foco {}
-    Rectangle {
+    Item {
         id: marca
         x: 14
         anchors.verticalCenter: parent.verticalCenter
         width: estilo.ladoDeMarca; height: estilo.ladoDeMarca
-        radius: fila.cuadro ? 4 : width / 2
-        color: fila.marcada && fila.cuadro ? estilo.acento : "transparent"
-        border { width: fila.marcada && fila.cuadro ? 0 : 1.5; color: fila.marcada ? estilo.acento : estilo.textoDebil }
 
+        Simbolo {
+            anchors.fill: parent
+            nombre: fila.cuadro ? "caja" : "aro"
+            color: fila.marcada ? estilo.acento : estilo.textoDebil
+        }
+        Rectangle {
+            anchors.fill: parent
+            visible: fila.marcada && fila.cuadro
+            radius: 4
+            color: estilo.acento
+        }
         Simbolo {
             anchors.centerIn: parent
             width: 12; height: 12
@@ -64,7 +72,7 @@ Rectangle {
             textFormat: Text.PlainText
             elide: Text.ElideRight
             maximumLineCount: 1
-            font.pointSize: estilo.letraDeOpcion
+            font { pointSize: estilo.letraDeOpcion; weight: Font.Medium }
             color: estilo.textoAlto
             Accessible.ignored: true
         }
