@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "Mesa.h"
+#include "ZorveCore/TerminalTmux.h"
 
 namespace zorve {
 namespace {
@@ -221,6 +222,19 @@ TEST_F(AperturaTest, loQueLanceElCatalogoEsUnFalloYNoElFinDelPrograma) {
   otro.abrirSeleccionada();
   despachador.correrTodo();
   EXPECT_EQ(*otro.errorDeApertura(), "Could not open the session: boom");
+}
+
+TEST_F(AperturaTest, unaAnfitrionaDeFueraDelCatalogoHospedaYRecibeLaElegida) {
+  auto con = colaboradores();
+  con.anfitrionas = anfitrionasDeLinux("/ayudante");
+  ModeloDeVista otro{std::move(con)};
+  enDisco({sesionViva("a", 40)});
+  ejecutor.proceso(40, 30, "claude", "pts/3").proceso(30, 1, "tmux: server");
+  otro.refrescar();
+  despachador.correrTodo();
+  otro.abrirSeleccionada();
+  despachador.correrTodo();
+  EXPECT_EQ(ejecutor.llamadas().back(), (Palabras{"/ayudante", "focus", "tmux", "pts/3", "uno"}));
 }
 
 TEST_F(AperturaTest, enEspanolTodoSaleEnEspanol) {
