@@ -33,6 +33,7 @@ inline void fechar(std::string const& ruta, std::int64_t segundos, long nanosegu
 
 inline std::vector<std::string> identificadores(TranscriptScanner::Resultado const& resultado) {
   std::vector<std::string> ids;
+  ids.reserve(resultado.transcripciones.size());
   for (auto const& t : resultado.transcripciones) ids.push_back(t.sessionId);
   return ids;
 }
@@ -40,6 +41,7 @@ inline std::vector<std::string> identificadores(TranscriptScanner::Resultado con
 /// The part of a result that a failed comparison should show.
 inline std::vector<std::string> mensajes(TranscriptScanner::Resultado const& resultado) {
   std::vector<std::string> textos;
+  textos.reserve(resultado.errores.size());
   for (auto const& e : resultado.errores) textos.push_back(e.mensaje);
   return textos;
 }

@@ -78,6 +78,10 @@ class ArchivosDespaciosos final : public Archivos {
   }
 };
 
+std::string enCarpeta(std::string carpeta, std::string const& nombre) {
+  return carpeta.append("/").append(nombre);
+}
+
 void revolver(ArchivosDespaciosos& casa) {
   casa.carpetas["/r"] = {"p0", "p1", "p2", "p3"};
   for (std::size_t p = 0; p < 4; ++p) {
@@ -86,12 +90,12 @@ void revolver(ArchivosDespaciosos& casa) {
     for (std::size_t n = 0; n < 30; ++n) {
       auto const nombre = uuid(n * 7919 % 1000 + p) + ".jsonl";
       nombres.push_back(nombre);
-      casa.entradas[proyecto + "/" + nombre] = {.texto = R"({"type":"ai-title","aiTitle":")" +
-                                                         std::to_string(n) + R"(","cwd":"/)" +
-                                                         std::to_string(p) + "\"}",
-                                                .falloAlAbrir = n % 5 == 0 ? EACCES : 0,
-                                                .falloDeAtributos = n % 7 == 0 ? EIO : 0,
-                                                .mtime = static_cast<double>(n % 3)};
+      casa.entradas[enCarpeta(proyecto, nombre)] = {.texto = R"({"type":"ai-title","aiTitle":")" +
+                                                             std::to_string(n) + R"(","cwd":"/)" +
+                                                             std::to_string(p) + "\"}",
+                                                    .falloAlAbrir = n % 5 == 0 ? EACCES : 0,
+                                                    .falloDeAtributos = n % 7 == 0 ? EIO : 0,
+                                                    .mtime = static_cast<double>(n % 3)};
     }
   }
 }
@@ -113,7 +117,7 @@ TEST(TranscriptScannerOrden, losErroresYLosEmpatesEstanEnElOrdenDelListado) {
   std::vector<std::string> rutas[3];
   for (auto const& proyecto : casa.carpetas.at("/r")) {
     for (auto const& nombre : casa.carpetas.at("/r/" + proyecto)) {
-      auto const ruta = "/r/" + proyecto + "/" + nombre;
+      auto const ruta = enCarpeta(enCarpeta("/r", proyecto), nombre);
       auto const& entrada = casa.entradas.at(ruta);
       if (entrada.falloDeAtributos != 0) {
         esperados.push_back("Could not read the size or date of " + ruta);
@@ -128,6 +132,7 @@ TEST(TranscriptScannerOrden, losErroresYLosEmpatesEstanEnElOrdenDelListado) {
   std::vector<std::string> esperadas;
   for (auto const& grupo : rutas) esperadas.insert(esperadas.end(), grupo.begin(), grupo.end());
   std::vector<std::string> halladas;
+  halladas.reserve(resultado.transcripciones.size());
   for (auto const& t : resultado.transcripciones) halladas.push_back(t.ruta);
   EXPECT_EQ(halladas, esperadas);
   EXPECT_EQ(mensajes(resultado), esperados);
