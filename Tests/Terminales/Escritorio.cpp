@@ -183,7 +183,7 @@ void Escritorio::empezarBus() {
 }
 
 void Escritorio::empezarX(std::string const& gestorDeVentanas) {
-  empezar({"Xvfb", "-displayfd", "1", "-screen", "0", "1600x1000x24", "-nolisten", "tcp"});
+  empezar({"Xvfb", "-displayfd", "1", "-screen", "0", "1600x1000x24", "-nolisten", "tcp", "-noreset"});
   auto const registro = casa_.dentro("registro-Xvfb");
   if (!esperarA([&] { return leerArchivoDePrueba(registro).ends_with('\n'); })) {
     throw std::runtime_error("no X server");
