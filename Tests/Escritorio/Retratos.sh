@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The panel's pictures are about the stored ones: full, empty, searching, with errors, in Spanish, at 200 %, and
+# The panel's pictures are about the stored ones: full, empty, searching, with errors, in Spanish, at 150 and 200 %, and
 # without a compositor. They are compared small, so that fonts may differ. RETRATOS=guarda stores them anew.
 set -euo pipefail
 aqui=$(realpath "$(dirname "${BASH_SOURCE[0]}")")
@@ -31,5 +31,6 @@ retrato busqueda lista 1 en escribe:parser
 retrato avisos avisos 1 en
 retrato espanol lista 1 es
 retrato doble lista 2 en Down
+retrato mediado lista 1.5 en Down
 FONDO=opaco retrato opaco lista 1 en
 exit "$mal"

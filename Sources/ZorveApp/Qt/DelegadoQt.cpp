@@ -72,7 +72,10 @@ VentanaDelPanel& DelegadoQt::ventana() {
   ventana_ = std::make_unique<VentanaDelPanel>(
       *escritorio_, [this](Pulsacion const& tecla) { return con_.panel.tecla(tecla); });
   connect(ventana_.get(), &VentanaDelPanel::escondida, &minutero_, &QTimer::stop);
-  connect(ventana_.get(), &VentanaDelPanel::escondida, &reposo_, qOverload<>(&QTimer::start));
+  // Counted from the first of several quick showings, so that they leave no more behind than one does.
+  connect(ventana_.get(), &VentanaDelPanel::escondida, &reposo_, [this] {
+    if (!reposo_.isActive()) reposo_.start();
+  });
   ventana_->rootContext()->setContextProperty(QStringLiteral("panel"), &puente_);
   ventana_->rootContext()->setContextProperty(QStringLiteral("estilo"), estiloParaQml(gustos_.dePantalla()));
   ventana_->preparar();
