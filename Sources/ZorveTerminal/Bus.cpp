@@ -212,9 +212,9 @@ std::vector<std::uint32_t> nodosNumerados(std::string_view introspeccion, std::s
        i = introspeccion.find(principio)) {
     introspeccion.remove_prefix(i + principio.size());
     auto const nombre = introspeccion.substr(0, introspeccion.find('"'));
-    auto const* const fin = nombre.data() + nombre.size();
+    auto const* const fin = std::to_address(nombre.end());
     std::uint32_t numero = 0;
-    auto const [hasta, error] = std::from_chars(nombre.data(), fin, numero);
+    auto const [hasta, error] = std::from_chars(std::to_address(nombre.begin()), fin, numero);
     if (error == std::errc{} && hasta == fin) numeros.push_back(numero);
   }
   std::ranges::sort(numeros);

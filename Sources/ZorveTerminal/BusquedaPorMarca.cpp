@@ -55,10 +55,11 @@ class Busqueda {
     return std::unexpected{fraseVarias(ficha_, sesion_.tty)};
   }
 
-  [[nodiscard]] Marcada porVentanas() const {
+  [[nodiscard]] Marcada porVentanas(Pestanas& pestanas) const {
     auto const todas = ventanas_.todas();
     for (auto const& una : delMasCercano(todas, sesion_.ascendencia)) {
       if (Reloj::now() >= limite_ || !ventanas_.activar(una.id, plazoPorVentana)) continue;
+      if (pestanas.mostrar() == Mostrada::calla) break;
       if (auto hallada = laMarcada(plazoPorPestana)) return hallada;
     }
     auto const antes = std::ranges::find(todas, true, &Ventana::enfocada);
@@ -78,13 +79,14 @@ class Busqueda {
 
 std::expected<std::uint64_t, std::string> buscarPorMarca(FichaDeTerminal const& ficha,
                                                          SesionEnTty const& sesion, Ventanas const& ventanas,
-                                                         ComoBuscar const& como) {
+                                                         Pestanas* pestanas, Intento intento) {
   auto const marca = MarcaDeTitulo::poner(sesion.tty, sesion.lider);
   if (!marca) return std::unexpected{marca.error()};
   Busqueda const busqueda{ficha, sesion, ventanas, *marca};
   auto hallada = busqueda.laMarcada(plazoALaVista);
-  if (!hallada && como.pestanas != nullptr) return busqueda.porPestanas(*como.pestanas);
-  if (!hallada && como.estaALaVista) return busqueda.porVentanas();
+  if (hallada || pestanas == nullptr) return hallada;
+  if (intento == Intento::porPestanas) return busqueda.porPestanas(*pestanas);
+  if (intento == Intento::porVentanas) return busqueda.porVentanas(*pestanas);
   return hallada;
 }
 

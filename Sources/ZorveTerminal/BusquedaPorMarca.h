@@ -13,12 +13,13 @@
 namespace zorve {
 
 /// What may be tried where the mark shows nowhere at first.
-struct ComoBuscar {
-  /// Its tabs are gone through, and each window shows what it showed before if that was in vain. Or null.
-  Pestanas* pestanas = nullptr;
-  /// The session is the one that its window shows: its title follows when the window has the keyboard, so
-  /// each window gets it in turn.
-  bool estaALaVista = false;
+enum class Intento : std::uint8_t {
+  nada,
+  /// The terminal's tabs are gone through; each window shows what it showed before if that was in vain.
+  porPestanas,
+  /// The terminal has shown the session, but a window's title may follow only when it has the keyboard: each
+  /// gets it in turn, and the terminal is asked once more.
+  porVentanas,
 };
 
 /// Finds the window that shows the session by a mark in its title, and takes the mark away again. Takes 4 s
@@ -26,6 +27,6 @@ struct ComoBuscar {
 [[nodiscard]] std::expected<std::uint64_t, std::string> buscarPorMarca(FichaDeTerminal const& ficha,
                                                                        SesionEnTty const& sesion,
                                                                        Ventanas const& ventanas,
-                                                                       ComoBuscar const& como);
+                                                                       Pestanas* pestanas, Intento intento);
 
 }  // namespace zorve

@@ -52,9 +52,8 @@ std::expected<std::uint64_t, std::string> mostrar(FichaDeTerminal const& ficha, 
                         sesionesDe(suyas.front().pid).size() != 1;
   if (ventana && !recorrer) return *ventana;
   if (!modo.admiteMarca) return std::unexpected{fraseVarias(ficha, sesion.tty)};
-  return buscarPorMarca(
-      ficha, sesion, ventanas,
-      {.pestanas = recorrer ? pestanas.get() : nullptr, .estaALaVista = mostrada == Mostrada::si});
+  auto const siNo = mostrada == Mostrada::si ? Intento::porVentanas : Intento::nada;
+  return buscarPorMarca(ficha, sesion, ventanas, pestanas.get(), recorrer ? Intento::porPestanas : siNo);
 }
 
 }  // namespace

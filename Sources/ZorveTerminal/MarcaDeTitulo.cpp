@@ -92,7 +92,9 @@ void avisar(int hilo, char que) { (void)escribir(hilo, {&que, 1}, esperaDeEscrit
   ::setsid();
   for (int const senal : {SIGHUP, SIGINT, SIGTERM, SIGPIPE, SIGQUIT, SIGALRM}) ::signal(senal, SIG_IGN);
   int const nada = ::open("/dev/null", O_RDWR);
-  for (int const flujo : {0, 1, 2}) ::dup2(nada, flujo);
+  for (int const flujo : {0, 1, 2}) {
+    if (nada >= 0) ::dup2(nada, flujo);
+  }
   char ultimo = noHayMarca;
   for (auto n = ::read(hilo, &ultimo, 1); n > 0 || (n < 0 && errno == EINTR);) n = ::read(hilo, &ultimo, 1);
   if (ultimo == hayMarca) (void)escribir(dispositivo, devolver, esperaDelGuardian);

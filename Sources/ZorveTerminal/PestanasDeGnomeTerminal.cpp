@@ -24,7 +24,7 @@ class PestanasDeGnomeTerminal final : public Pestanas {
     auto nombre = sesion_.variable("GNOME_TERMINAL_SCREEN");
     if (!nombre.starts_with(pantalla)) return Mostrada::noSabe;
     nombre.erase(0, pantalla.size());
-    std::ranges::replace(nombre, '_', '-');
+    (void)std::ranges::replace(nombre, '_', '-');
     std::vector<Argumento> const argumentos{nombre, std::vector<std::string>{}, std::uint32_t{0}};
     return segun(bus_.llamar(
         {servicio, "/org/gnome/Terminal/SearchProvider", "org.gnome.Shell.SearchProvider2", "ActivateResult"},

@@ -15,8 +15,9 @@ std::optional<std::int32_t> numeroTras(std::string_view texto, std::string_view 
   if (!texto.starts_with(principio)) return std::nullopt;
   texto.remove_prefix(principio.size());
   std::int32_t numero = 0;
-  auto const* const fin = texto.data() + texto.size();
-  return std::from_chars(texto.data(), fin, numero).ptr == fin ? std::optional{numero} : std::nullopt;
+  auto const [hasta, error] =
+      std::from_chars(std::to_address(texto.begin()), std::to_address(texto.end()), numero);
+  return error == std::errc{} && hasta == std::to_address(texto.end()) ? std::optional{numero} : std::nullopt;
 }
 
 /// Konsole says over D-Bus which sessions each of its windows has, and shows the one that it is told.

@@ -6,69 +6,90 @@
 
 #include <chrono>
 #include <csignal>
+#include <filesystem>
 #include <string>
 
 #include "Dobles/Pseudoterminal.h"
 #include "Terminales/Sesiones.h"
-#include "ZorveTerminal/Sway.h"
 
 namespace zorve::pruebas {
 namespace {
 
 class DosVentanas : public testing::TestWithParam<FichaDeTerminal> {
  protected:
-  explicit DosVentanas(Escritorio::Pantalla pantalla = Escritorio::Pantalla::x11)
-      : dos{GetParam(), pantalla} {}
+  explicit DosVentanas(Escritorio::Pantalla pantalla = Escritorio::Pantalla::x11,
+                       std::string const& gestor = "openbox")
+      : dos{GetParam(), pantalla, gestor} {}
 
   /// False when the terminal is not installed here.
   [[nodiscard]] bool abrirlas() { return estaAqui(GetParam()) && dos.abrirVentana() && dos.abrirVentana(); }
 
+  void enTodasPartes() {
+    dos.laTeclaLlegaSoloA(0, "a");
+    dos.laTeclaLlegaSoloA(1, "b");
+    ASSERT_TRUE(dos.hacer({"xdotool", "getactivewindow", "windowminimize"}));
+    dos.laTeclaLlegaSoloA(1, "c");
+    ASSERT_TRUE(dos.hacer({"xdotool", "set_desktop", "1"}));
+    dos.laTeclaLlegaSoloA(0, "d");
+  }
+
   Sesiones dos;
 };
+
+/// With --all alone.
+class DosVentanasLargo : public DosVentanas {
+ protected:
+  DosVentanasLargo()
+      : DosVentanas{conLosLargos() ? Escritorio::Pantalla::x11 : Escritorio::Pantalla::ninguna, "xfwm4"} {}
+};
+
+INSTANTIATE_TEST_SUITE_P(Linux, DosVentanasLargo, testing::ValuesIn(enfocables(SesionGrafica::x11)),
+                         nombreDelTerminal);
 
 INSTANTIATE_TEST_SUITE_P(Linux, DosVentanas, testing::ValuesIn(enfocables(SesionGrafica::x11)),
                          nombreDelTerminal);
 
-/// The same under sway, whose own word is taken for what has the keyboard.
+/// The same under sway.
 class DosVentanasDeSway : public DosVentanas {
  protected:
   DosVentanasDeSway() : DosVentanas{Escritorio::Pantalla::wayland} {}
-
-  /// The identifier of the window that has the keyboard, or the empty text.
-  [[nodiscard]] std::string enfocada() const {
-    auto const arbol = dos.escritorio.correr({"swaymsg", "-r", "-t", "get_tree"}).salida;
-    for (auto const& ventana : ventanasDelArbol(arbol)) {
-      if (ventana.enfocada) return std::to_string(ventana.id);
-    }
-    return {};
-  }
 };
 
 INSTANTIATE_TEST_SUITE_P(Linux, DosVentanasDeSway, testing::ValuesIn(enfocables(SesionGrafica::sway)),
                          nombreDelTerminal);
 
-TEST_P(DosVentanasDeSway, cadaSesionTieneSuVentanaTambienDesdeOtroEspacio) {
-  if (!abrirlas()) return;
-  ASSERT_EQ(dos.enfocar(0).codigo, 0);
-  auto const primera = enfocada();
-  ASSERT_EQ(dos.enfocar(1).codigo, 0);
-  EXPECT_NE(primera, enfocada());
-  EXPECT_FALSE(primera.empty());
-  ASSERT_TRUE(dos.hacer({"swaymsg", "workspace", "9"}));
-  ASSERT_EQ(enfocada(), "");
-  auto const corrida = dos.enfocar(0);
-  EXPECT_EQ(corrida.codigo, 0) << corrida.error;
-  EXPECT_EQ(enfocada(), primera);
-}
-
-TEST_P(DosVentanas, laTeclaLlegaALaSesionEnfocadaDelanteDetrasMinimizadaYEnOtroEscritorio) {
+TEST_P(DosVentanasDeSway, laTeclaLlegaALaSesionEnfocadaTambienDesdeOtroEspacio) {
   if (!abrirlas()) return;
   dos.laTeclaLlegaSoloA(0, "a");
   dos.laTeclaLlegaSoloA(1, "b");
-  ASSERT_TRUE(dos.hacer({"xdotool", "getactivewindow", "windowminimize"}));
-  dos.laTeclaLlegaSoloA(1, "c");
-  ASSERT_TRUE(dos.hacer({"xdotool", "set_desktop", "1"}));
-  dos.laTeclaLlegaSoloA(0, "d");
+  ASSERT_TRUE(dos.hacer({"swaymsg", "workspace", "9"}));
+  dos.laTeclaLlegaSoloA(0, "c");
+}
+
+TEST(EnfocarEnSway, lasVentanasDelServidorDeFootSeDistinguenPorSuTitulo) {
+  auto const& foot = *fichaDeLinux("foot");
+  if (!estaAqui(foot)) return;
+  Sesiones dos{foot, Escritorio::Pantalla::wayland};
+  dos.escritorio.empezar({"foot", "--server"});
+  ASSERT_TRUE(esperarA([&] {
+    auto const enchufe =
+        dos.escritorio.casa().dentro("r/foot-" + dos.escritorio.variables.at("WAYLAND_DISPLAY") + ".sock");
+    return std::filesystem::exists(enchufe);
+  }));
+  ASSERT_TRUE(dos.abrirVentana() && dos.abrirVentana());
+  ASSERT_EQ(dos.anfitrionDe(0), dos.anfitrionDe(1));
+  dos.laTeclaLlegaSoloA(0, "a");
+  dos.laTeclaLlegaSoloA(1, "b");
+  ASSERT_TRUE(dos.hacer({"swaymsg", "workspace", "9"}));
+  dos.laTeclaLlegaSoloA(0, "c");
+}
+
+TEST_P(DosVentanas, laTeclaLlegaALaSesionEnfocadaDelanteDetrasMinimizadaYEnOtroEscritorio) {
+  if (abrirlas()) enTodasPartes();
+}
+
+TEST_P(DosVentanasLargo, lasMismasConOtroGestorDeVentanas) {
+  if (conLosLargos() && abrirlas()) enTodasPartes();
 }
 
 TEST_P(DosVentanas, sinSuVentanaLaSesionYaNoSeEncuentra) {

@@ -206,6 +206,7 @@ void Escritorio::empezarSway() {
   variables["WLR_BACKENDS"] = "headless";
   variables["WLR_LIBINPUT_NO_DEVICES"] = "1";
   variables["WLR_RENDERER"] = "pixman";
+  variables["XDG_SESSION_TYPE"] = "wayland";
   empezarBus();
   casa_.escribir("sway.conf", "output HEADLESS-1 resolution 1600x1000\nxwayland disable\n");
   empezar({"sway", "-c", casa_.dentro("sway.conf")});
@@ -221,6 +222,8 @@ void Escritorio::empezarSway() {
   if (!esperarA([&] { return aparece("wayland-", "WAYLAND_DISPLAY") && aparece("sway-ipc", "SWAYSOCK"); })) {
     throw std::runtime_error("no sway: " + leerArchivoDePrueba(casa_.dentro("registro-sway.error")));
   }
+  // The bus came first; what it starts needs to know the display.
+  (void)correr({"dbus-update-activation-environment", "WAYLAND_DISPLAY", "SWAYSOCK"});
 }
 
 std::vector<Anotado> Escritorio::anotados(std::size_t cuantos) const {

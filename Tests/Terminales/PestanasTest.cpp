@@ -76,6 +76,9 @@ void PrintTo(Caso const& caso, std::ostream* salida) { *salida << caso.nombre; }
 /// A window with two tabs (or splits), and a second window.
 class Pestanas : public testing::TestWithParam<Caso> {
  protected:
+  explicit Pestanas(Escritorio::Pantalla pantalla = Escritorio::Pantalla::x11)
+      : s{*fichaDeLinux(GetParam().identificador), pantalla} {}
+
   [[nodiscard]] bool abrirlas() {
     if (!estaAqui(*fichaDeLinux(GetParam().identificador))) return false;
     s.escritorio.casa().escribir(".config/kitty/kitty.conf",
@@ -85,13 +88,13 @@ class Pestanas : public testing::TestWithParam<Caso> {
 
   [[nodiscard]] std::string titulos() const {
     std::string todos;
-    for (auto const& ventana : s.ventanasDeX()) {
+    for (auto const& ventana : s.ventanas()) {
       todos += s.escritorio.correr({"xprop", "-id", ventana, "_NET_WM_NAME"}).salida;
     }
     return todos;
   }
 
-  Sesiones s{*fichaDeLinux(GetParam().identificador), Escritorio::Pantalla::x11};
+  Sesiones s;
 };
 
 Caso const konsole{"Konsole", "org.kde.konsole", pestanaDeKonsole};
@@ -104,6 +107,17 @@ Caso const enKitty{"MitadDeKitty", "kitty", mitadDeKitty};
 
 INSTANTIATE_TEST_SUITE_P(Linux, Pestanas,
                          testing::Values(konsole, gnomeTerminal, kgx, tilix, enTilix, kitty, enKitty),
+                         [](auto const& caso) { return caso.param.nombre; });
+
+/// The same under sway, with --all alone.
+class PestanasDeSwayLargo : public Pestanas {
+ protected:
+  PestanasDeSwayLargo()
+      : Pestanas{conLosLargos() ? Escritorio::Pantalla::wayland : Escritorio::Pantalla::ninguna} {}
+};
+
+INSTANTIATE_TEST_SUITE_P(Linux, PestanasDeSwayLargo,
+                         testing::Values(konsole, gnomeTerminal, kgx, tilix, kitty, enKitty),
                          [](auto const& caso) { return caso.param.nombre; });
 
 /// The same with the terminal's process stopped.
@@ -123,6 +137,15 @@ TEST_P(Pestanas, laTeclaLlegaALaPestanaEnfocadaYLosTitulosVuelven) {
   s.laTeclaLlegaSoloA(1, "e");
   s.laTeclaLlegaSoloA(2, "f");
   EXPECT_TRUE(esperarA([&] { return !titulos().contains("zorve-"); }, 5s)) << titulos();
+}
+
+TEST_P(PestanasDeSwayLargo, laTeclaLlegaALaPestanaEnfocadaTambienDesdeOtroEspacio) {
+  if (!conLosLargos() || !abrirlas()) return;
+  s.laTeclaLlegaSoloA(0, "a");
+  s.laTeclaLlegaSoloA(2, "b");
+  s.laTeclaLlegaSoloA(1, "c");
+  ASSERT_TRUE(s.hacer({"swaymsg", "workspace", "9"}));
+  s.laTeclaLlegaSoloA(0, "d");
 }
 
 TEST_P(TerminalDetenida, seDiceEnUnaFraseYDespuesSeEnfocaComoAntes) {

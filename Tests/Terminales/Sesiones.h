@@ -28,14 +28,14 @@ class Sesiones {
   [[nodiscard]] dobles::Corrida enfocar(std::size_t cual) const;
   /// What was typed into the session.
   [[nodiscard]] std::string teclasDe(std::size_t cual) const;
-  /// Focuses the session, presses a key, and sees it arrive there and nowhere else. X11 only.
+  /// Focuses the session, presses a key, and sees it arrive there and nowhere else.
   void laTeclaLlegaSoloA(std::size_t cual, std::string const& tecla) const;
   /// The process that shows the session.
   [[nodiscard]] pid_t anfitrionDe(std::size_t cual) const;
   /// A variable of the shell that started the session.
   [[nodiscard]] std::string variableDe(std::size_t cual, std::string const& nombre) const;
-  /// The identifiers of the windows that the window manager lists; none outside X11.
-  [[nodiscard]] std::vector<std::string> ventanasDeX() const;
+  /// The identifiers of the windows on this desktop.
+  [[nodiscard]] std::vector<std::string> ventanas() const;
   /// Runs a program in this desktop; its words appear where it fails.
   [[nodiscard]] bool hacer(std::vector<std::string> const& palabras) const;
 
@@ -43,8 +43,6 @@ class Sesiones {
   std::vector<Anotado> sesiones;
 
  private:
-  [[nodiscard]] bool enX() const;
-
   FichaDeTerminal ficha_;
 };
 
