@@ -4,6 +4,8 @@
 export XDG_DATA_DIRS
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
+# shellcheck source=Tests/Escritorio/comun-gustos.sh
+. "$(dirname "${BASH_SOURCE[0]}")/comun-gustos.sh"
 prefijo=$casa/instalado
 XDG_DATA_DIRS=$prefijo/share:/usr/share
 cmake --install "$bin/.." --prefix "$prefijo" >"$casa/instala.out"
@@ -15,6 +17,7 @@ for icono in scalable/apps/com.sarnol.zorve symbolic/apps/com.sarnol.zorve-symbo
 done
 
 escritorio lista
+lector
 dbus-update-activation-environment HOME XDG_CONFIG_HOME XDG_RUNTIME_DIR XDG_DATA_HOME LANG
 gtk-launch com.sarnol.zorve
 espera panel_visible
@@ -31,6 +34,11 @@ espera ajustes
 clase=$(xprop -id "$(ajustes)" WM_CLASS)
 [ "$clase" = 'WM_CLASS(STRING) = "zorve", "com.sarnol.zorve"' ] || fallo "the window's class: $clase"
 xprop -id "$(ajustes)" _NET_WM_ICON | grep Icon >/dev/null || fallo "the window has no icon"
+
+# It knows its version.
+pulsa_opcion About
+version=$("$prefijo/bin/zorvectl" --version | grep -oE '[0-9]+\.[0-9]+\.[0-9]+')
+espera dice "label \"Zorve $version\" [focusable]"
 
 # Another prefix with a character that the entry cannot hold is refused.
 ! cmake --install "$bin/.." --prefix "$casa/a\$b" >/dev/null 2>"$casa/rechazo" || fallo "a prefix with a dollar was taken"

@@ -52,6 +52,25 @@ std::vector<std::uint32_t> propiedad(xcb_connection_t* conexion, xcb_window_t de
   return {todos.begin(), todos.end()};
 }
 
+std::uint32_t momentoDelServidor() {
+  std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> const propia{xcb_connect(nullptr, nullptr),
+                                                                            &xcb_disconnect};
+  if (xcb_connection_has_error(propia.get()) != 0) return 0;
+  // A property that changes tells when.
+  auto const ventana = xcb_generate_id(propia.get());
+  std::uint32_t const interes = XCB_EVENT_MASK_PROPERTY_CHANGE;
+  xcb_create_window(propia.get(), 0, ventana, raiz(propia.get()), -1, -1, 1, 1, 0,
+                    XCB_WINDOW_CLASS_INPUT_ONLY, 0, XCB_CW_EVENT_MASK, &interes);
+  xcb_change_property(propia.get(), XCB_PROP_MODE_REPLACE, ventana, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 0,
+                      nullptr);
+  xcb_flush(propia.get());
+  while (Respuesta<xcb_generic_event_t> const evento{xcb_wait_for_event(propia.get())}) {
+    if ((evento->response_type & 0x7FU) != XCB_PROPERTY_NOTIFY) continue;
+    return reinterpret_cast<xcb_property_notify_event_t const*>(evento.get())->time;
+  }
+  return 0;
+}
+
 void escribirClase(xcb_connection_t* conexion, xcb_window_t ventana, QByteArray const& instancia,
                    QByteArray const& clase) {
   auto const nombres = instancia + '\0' + clase + '\0';

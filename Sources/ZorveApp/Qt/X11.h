@@ -33,6 +33,9 @@ using Respuesta = std::unique_ptr<T, Liberar>;
 [[nodiscard]] std::vector<std::uint32_t> propiedad(xcb_connection_t* conexion, xcb_window_t de,
                                                    QByteArray const& nombre);
 
+/// The server's time, in milliseconds, asked over a connection of its own; 0 when it does not answer.
+[[nodiscard]] std::uint32_t momentoDelServidor();
+
 /// The names by which a window manager knows whose window it is. Before the window is shown.
 void escribirClase(xcb_connection_t* conexion, xcb_window_t ventana, QByteArray const& instancia,
                    QByteArray const& clase);
