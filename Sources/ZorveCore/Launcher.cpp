@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <string_view>
 #include <utility>
 
+#include "ZorveCore/Entero.h"
 #include "ZorveCore/Escape.h"
 #include "ZorveCore/Texto.h"
 
@@ -28,9 +28,7 @@ std::string recortada(std::string_view texto) {
 /// A decimal 32-bit integer with an optional sign, 0 when it is none.
 std::int32_t enteroO0(std::string_view texto) {
   if (texto.starts_with('+') && !texto.starts_with("+-")) texto.remove_prefix(1);
-  std::int32_t valor = 0;
-  auto const [fin, error] = std::from_chars(texto.data(), texto.data() + texto.size(), valor);
-  return error == std::errc{} && fin == texto.data() + texto.size() ? valor : 0;
+  return enteroEn<std::int32_t>(texto).value_or(0);
 }
 
 /// A process as `ps -o ppid=,comm=` prints it.

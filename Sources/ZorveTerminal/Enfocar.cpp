@@ -1,9 +1,9 @@
 #include "ZorveTerminal/Enfocar.h"
 
-#include <charconv>
 #include <chrono>
 #include <thread>
 
+#include "ZorveCore/Entero.h"
 #include "ZorvePlatform/Linux/SesionGraficaLinux.h"
 #include "ZorveTerminal/BusquedaPorMarca.h"
 #include "ZorveTerminal/EleccionDeVentana.h"
@@ -18,12 +18,6 @@ namespace {
 constexpr std::chrono::milliseconds plazoDeLaVentana{2500};
 constexpr std::chrono::milliseconds entreIntentos{100};
 constexpr int vecesQueSeInsiste = 10;
-
-std::uint64_t ventanaEscrita(std::string const& texto) {
-  std::uint64_t ventana = 0;
-  auto const* const fin = texto.data() + texto.size();
-  return std::from_chars(texto.data(), fin, ventana).ptr == fin ? ventana : 0;
-}
 
 /// Asks again for a moment: a shell may run before its window is shown.
 std::vector<Ventana> ventanasDeLaSesion(Ventanas const& ventanas, SesionEnTty const& sesion) {
@@ -46,7 +40,7 @@ std::expected<std::uint64_t, std::string> mostrar(FichaDeTerminal const& ficha, 
   if (mostrada == Mostrada::calla) return std::unexpected{fraseNoContesta(ficha, sesion.tty)};
 
   auto propia = pestanas ? pestanas->ventana() : 0;
-  if (propia == 0) propia = ventanaEscrita(sesion.variable("WINDOWID"));
+  if (propia == 0) propia = enteroEn<std::uint64_t>(sesion.variable("WINDOWID")).value_or(0);
   auto const ventana = ventanaDe(suyas, sesion.ascendencia, propia);
   auto const recorrer = mostrada == Mostrada::noSabe && pestanas && pestanas->recorre() &&
                         sesionesDe(suyas.front().pid).size() != 1;

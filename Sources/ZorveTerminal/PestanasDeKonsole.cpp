@@ -1,7 +1,7 @@
 #include <algorithm>
-#include <charconv>
 #include <optional>
 
+#include "ZorveCore/Entero.h"
 #include "ZorveTerminal/Bus.h"
 #include "ZorveTerminal/Pestanas.h"
 
@@ -14,10 +14,7 @@ constexpr char const* ventanas = "/Windows";
 std::optional<std::int32_t> numeroTras(std::string_view texto, std::string_view principio) {
   if (!texto.starts_with(principio)) return std::nullopt;
   texto.remove_prefix(principio.size());
-  std::int32_t numero = 0;
-  auto const [hasta, error] =
-      std::from_chars(std::to_address(texto.begin()), std::to_address(texto.end()), numero);
-  return error == std::errc{} && hasta == std::to_address(texto.end()) ? std::optional{numero} : std::nullopt;
+  return enteroEn<std::int32_t>(texto);
 }
 
 /// Konsole says over D-Bus which sessions each of its windows has, and shows the one that it is told.

@@ -7,11 +7,11 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <charconv>
 #include <filesystem>
 #include <sstream>
 #include <string_view>
 
+#include "ZorveCore/Entero.h"
 #include "ZorveCore/Escape.h"
 #include "ZorvePlatform/Posix/Descriptor.h"
 
@@ -37,15 +37,8 @@ std::string leer(std::string const& ruta) {
   }
 }
 
-std::optional<pid_t> numero(std::string_view texto) {
-  pid_t valor = 0;
-  auto const [hasta, error] = std::from_chars(texto.data(), texto.data() + texto.size(), valor);
-  bool const entero = error == std::errc{} && hasta == texto.data() + texto.size();
-  return entero ? std::optional{valor} : std::nullopt;
-}
-
 bool esNombreDeTty(std::string_view nombre) {
-  return !nombre.empty() && !nombre.contains("..") && std::ranges::all_of(nombre, [](char letra) {
+  return !nombre.empty() && std::ranges::all_of(nombre, [](char letra) {
     return (letra >= 'a' && letra <= 'z') || (letra >= 'A' && letra <= 'Z') ||
            (letra >= '0' && letra <= '9') || letra == '/';
   });
@@ -63,7 +56,7 @@ std::vector<Proceso> todosLosLideres() {
   std::vector<Proceso> lideres;
   std::error_code error;
   for (auto const& entrada : std::filesystem::directory_iterator{"/proc", error}) {
-    auto const pid = numero(entrada.path().filename().native());
+    auto const pid = enteroEn<pid_t>(entrada.path().filename().native());
     auto const proceso = pid ? procesoVivo(*pid) : std::nullopt;
     if (proceso && proceso->tty != 0 && proceso->sesion == proceso->pid) lideres.push_back(*proceso);
   }
@@ -74,7 +67,7 @@ std::vector<Proceso> todosLosLideres() {
 
 std::optional<Proceso> leerStat(std::string const& texto) {
   auto const cierre = texto.rfind(')');
-  auto const pid = numero(std::string_view{texto}.substr(0, texto.find(' ')));
+  auto const pid = enteroEn<pid_t>(std::string_view{texto}.substr(0, texto.find(' ')));
   if (cierre == std::string::npos || !pid) return std::nullopt;
   std::istringstream resto{texto.substr(cierre + 1)};
   std::string estado;

@@ -4,11 +4,11 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <charconv>
 #include <chrono>
 #include <tuple>
 #include <utility>
 
+#include "ZorveCore/Entero.h"
 #include "ZorveCore/Escape.h"
 #include "ZorveCore/Texto.h"
 #include "ZorveCore/TextoVisible.h"
@@ -32,13 +32,6 @@ bool esIdentificador(std::string_view texto, char clase) {
          std::ranges::all_of(texto.substr(1), [](char letra) { return letra >= '0' && letra <= '9'; });
 }
 
-std::optional<std::int64_t> entero(std::string const& texto) {
-  std::int64_t valor = 0;
-  auto const* const fin = texto.data() + texto.size();
-  auto const [hasta, error] = std::from_chars(texto.data(), fin, valor);
-  return error == std::errc{} && hasta == fin ? std::optional{valor} : std::nullopt;
-}
-
 std::optional<PaneDeTmux> leerPane(std::string_view linea) {
   auto const campos = palabras(linea);
   if (campos.size() != 4 || !campos[0].starts_with("/dev/") || !esIdentificador(campos[1], '$') ||
@@ -54,9 +47,9 @@ std::optional<ClienteDeTmux> leerCliente(std::string_view linea) {
   if (campos.size() != 7 || !campos[0].starts_with("/dev/") || !esIdentificador(campos[1], '$')) {
     return std::nullopt;
   }
-  auto const actividad = entero(std::string{campos[2]});
+  auto const actividad = enteroEn<std::int64_t>(campos[2]);
   bool const sinPantalla = campos[4] != "0" || campos[5].contains("suspended");
-  if (!actividad || sinPantalla) return std::nullopt;
+  if (!actividad || *actividad < 0 || sinPantalla) return std::nullopt;
   bool const noTermina = campos[6] == "ends:" || campos[6] == "ends:0" || campos[6] == "ends:off";
   return ClienteDeTmux{std::string{campos[0]}, std::string{campos[1]}, *actividad, campos[3] != "0",
                        !noTermina};

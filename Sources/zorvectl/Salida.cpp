@@ -4,11 +4,11 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <charconv>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 
+#include "ZorveCore/Entero.h"
 #include "ZorveCore/FalloDelSistema.h"
 #include "ZorveCore/TextoVisible.h"
 
@@ -22,11 +22,8 @@ std::string_view variable(char const* nombre) {
 }
 
 std::optional<std::size_t> columnasDelEntorno() {
-  auto const texto = variable("COLUMNS");
-  std::size_t columnas = 0;
-  auto const [fin, fallo] = std::from_chars(texto.data(), texto.data() + texto.size(), columnas);
-  if (fallo != std::errc{} || fin != texto.data() + texto.size() || columnas == 0) return std::nullopt;
-  return columnas;
+  auto const columnas = enteroEn<std::size_t>(variable("COLUMNS"));
+  return columnas == 0UZ ? std::nullopt : columnas;
 }
 
 std::optional<std::size_t> columnasDelTerminal() {

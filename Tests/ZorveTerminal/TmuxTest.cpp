@@ -52,7 +52,8 @@ TEST(LeerClientes, sonLosQueTienenPantalla) {
                          "/dev/pts/7 $1 7 0 1 flags:attached,control-mode ends:0\n"
                          " $1 7 0 1 flags:attached,control-mode ends:0\n"
                          "/dev/pts/8 $1 7 0 0 flags: ends:\n"
-                         "/dev/pts/9 $1 7 0 0 flags: ends:keep-group\n"),
+                         "/dev/pts/9 $1 7 0 0 flags: ends:keep-group\n"
+                         "/dev/pts/2 $1 -9223372036854775808 0 0 flags: ends:\n"),
             (std::vector<ClienteDeTmux>{{"/dev/pts/4", "$0", 1795281244},
                                         {"/dev/pts/5", "$1", 7, true},
                                         {"/dev/pts/8", "$1", 7},
@@ -130,9 +131,10 @@ class EnUnTty : public testing::Test {
                                     carpeta.ruta()};
     EXPECT_TRUE(terminal.esperar("]"));
     auto const tty = terminal.pantalla().substr(1, terminal.pantalla().find(']') - 1);
-    return dobles::correr(
-        {ZORVE_TERMINAL, "focus", "tmux", tty},
-        {{"HOME", carpeta.ruta()}, {"PATH", carpeta.carpeta("bin")}, {"DISPLAY", ":65000"}});
+    return dobles::correr({ZORVE_TERMINAL, "focus", "tmux", tty}, {{"HOME", carpeta.ruta()},
+                                                                   {"PATH", carpeta.carpeta("bin")},
+                                                                   {"TMUX_TMPDIR", carpeta.ruta()},
+                                                                   {"DISPLAY", ":65000"}});
   }
   void tmux(std::string const& guion) const {
     auto const ruta = carpeta.escribir("bin/tmux", "#!/bin/sh\n" + guion);
