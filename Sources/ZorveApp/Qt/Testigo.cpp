@@ -1,6 +1,7 @@
 #include "ZorveApp/Qt/Testigo.h"
 
 #include <QtGlobal>
+#include <algorithm>
 
 namespace zorve {
 
@@ -12,10 +13,19 @@ constexpr auto variableDeArranque = "DESKTOP_STARTUP_ID";
 QString claveDeActivacion() { return QStringLiteral("activation-token"); }
 QString claveDeArranque() { return QStringLiteral("desktop-startup-id"); }
 
+/// Window systems take no message much longer than this, and end the connection that sends one.
+constexpr qsizetype largoMaximo = 512;
+
+QString admisible(QString texto) {
+  auto const esDeControl = [](QChar c) { return c.unicode() < u' ' || c.unicode() == 0x7F; };
+  bool const mal = texto.size() > largoMaximo || std::ranges::any_of(texto, esDeControl);
+  return mal ? QString{} : texto;
+}
+
 QString tomar(char const* variable) {
   auto const valor = qEnvironmentVariable(variable);
   qunsetenv(variable);
-  return valor;
+  return admisible(valor);
 }
 
 }  // namespace
@@ -23,8 +33,8 @@ QString tomar(char const* variable) {
 Testigo Testigo::tomarDelEntorno() { return {tomar(variableDeActivacion), tomar(variableDeArranque)}; }
 
 Testigo Testigo::de(QVariantMap const& datosDePlataforma) {
-  return {datosDePlataforma.value(claveDeActivacion()).toString(),
-          datosDePlataforma.value(claveDeArranque()).toString()};
+  return {admisible(datosDePlataforma.value(claveDeActivacion()).toString()),
+          admisible(datosDePlataforma.value(claveDeArranque()).toString())};
 }
 
 QVariantMap Testigo::datosDePlataforma() const {

@@ -8,7 +8,8 @@
 namespace zorve {
 
 /// The desktop's leave for one window to come to the front with the keyboard: an activation token, the
-/// identifier of an announced start (X11), both, or neither. Plain values; any thread.
+/// identifier of an announced start (X11), both, or neither. One with control characters or longer than any
+/// desktop's does not count. Plain values; any thread.
 struct Testigo {
   QString activacion;
   QString arranque;

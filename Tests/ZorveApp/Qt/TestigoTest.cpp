@@ -25,6 +25,17 @@ TEST(Testigo, unosDatosDeOtraClaseNoSonTestigo) {
   EXPECT_TRUE(Testigo::de({{QStringLiteral("activation-token"), QVariantList{1}}}).vacio());
 }
 
+TEST(Testigo, loQueNingunEscritorioDaNoCuenta) {
+  auto const de = [](QString const& texto) {
+    return Testigo::de(
+        {{QStringLiteral("activation-token"), texto}, {QStringLiteral("desktop-startup-id"), texto}});
+  };
+  EXPECT_FALSE(de(QString{512, u'x'}).vacio());
+  EXPECT_TRUE(de(QString{513, u'x'}).vacio());
+  EXPECT_TRUE(de(QStringLiteral("a\nb")).vacio());
+  EXPECT_TRUE(de(QStringLiteral("a") + QChar{0}).vacio());
+}
+
 TEST(Testigo, elMomentoEsElDelFinalDelIdentificador) {
   auto const momentoDe = [](char const* arranque) {
     return Testigo{{}, QString::fromLatin1(arranque)}.momento();
