@@ -34,3 +34,11 @@ for borde in top bottom left right; do
   kill "$bandeja"
   espera no con_bandeja_xembed
 done
+# The same for a StatusNotifier host, which does not tell where its icon is.
+barra_sn 8
+espera hay_icono_sn
+read -r cx cy < <(centro "$(casilla_sn)")
+pulsa_en "$cx" "$cy"
+espera panel_con_teclado
+read -r x y _ alto < <(lugar "$(panel)")
+((x >= 0 && y >= 0 && y + alto <= 773 && y + alto >= 755)) || fallo "the panel at $x,$y is not above the bar"

@@ -174,10 +174,10 @@ cuantos_pixeles() {
 }
 hay_color() { [ "$(cuantos_pixeles "$1" "$2" "$3")" -gt 3 ]; }
 
-# Tray hosts.
+# Tray hosts. bandeja_xembed [EDGE [MONITOR [OPTIONS...]]]
 bandeja_xembed() {
   arranca trayer trayer --edge "${1:-top}" --align right --widthtype request --heighttype pixel --height 26 \
-    --SetDockType true --SetPartialStrut true --transparent false --monitor "${2:-0}"
+    --SetDockType true --SetPartialStrut true --transparent false --monitor "${2:-0}" "${@:3}"
   espera con_bandeja_xembed
 }
 con_bandeja_xembed() { xprop -root _NET_CLIENT_LIST && xdotool search --class trayer; }
@@ -185,8 +185,8 @@ con_bandeja_xembed() { xprop -root _NET_CLIENT_LIST && xdotool search --class tr
 icono_xembed() { xwininfo -root -tree | awk '/"Zorve": \("zorve"/ && !/ (440x560|620x460|1x1)\+/ { print $1; exit }'; }
 hay_icono_xembed() { [ -n "$(icono_xembed)" ]; }
 
-# barra_sn EDGE: a bar whose one thing is a StatusNotifier host. EDGE is xfce4-panel's number of an
-# edge (6 the top, 8 the bottom).
+# barra_sn EDGE [DARK]: a bar whose one thing is a StatusNotifier host. EDGE is xfce4-panel's number of an edge (6 the
+# top, 8 the bottom), DARK true or false.
 barra_sn() {
   local canal=$casa/.config/xfce4/xfconf/xfce-perchannel-xml
   mkdir -p "$canal"
@@ -196,6 +196,7 @@ barra_sn() {
   <property name="configver" type="int" value="2"/>
   <property name="panels" type="array">
     <value type="int" value="1"/>
+    <property name="dark-mode" type="bool" value="${2:-true}"/>
     <property name="panel-1" type="empty">
       <property name="position" type="string" value="p=$1;x=0;y=0"/>
       <property name="output-name" type="string" value="Automatic"/>
@@ -232,9 +233,12 @@ menu_sn() {
   done
   return 1
 }
+# Its settings daemon ends too: it would not read the next bar's file.
 quita_barra_sn() {
   kill "$barra"
   espera terminado "$barra"
+  kill "$(gdbus call --session --dest org.freedesktop.DBus --object-path /org/freedesktop/DBus \
+    --method org.freedesktop.DBus.GetConnectionUnixProcessID org.xfce.Xfconf | grep -oE '[0-9]+' | tail -n 1)"
   espera no tiene_nombre org.kde.StatusNotifierWatcher
 }
 # The items that the host knows: the bus name and the path of each.
