@@ -14,6 +14,8 @@ sesion() {
 sesion 1 "Un cafe"
 sesion 2 "Precio en €"
 sesion 3 "한글 검색"
+# A keyboard that has these keys, so that none is put in its place for one press.
+setxkbmap -layout us -variant intl -option compose:menu
 export QT_IM_MODULE=compose
 zorve
 muestra
