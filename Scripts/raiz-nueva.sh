@@ -16,7 +16,7 @@ mkdir -p "$base"
 cierra() {
   local punto
   for punto in "$raiz/dev" "$raiz/proc"; do
-    mountpoint -q "$punto" && umount -l "$punto"
+    mountpoint -q "$punto" && umount -R -l "$punto"
   done
   rm -rf --one-file-system "$raiz"
 }
@@ -32,7 +32,9 @@ callado "$registro" debootstrap --variant=minbase "$nombre" "$raiz" "$espejo"
 cp -a /etc/apt/sources.list.d /etc/apt/apt.conf.d "$raiz/etc/apt/"
 [ ! -e /etc/apt/sources.list ] || cp -a /etc/apt/sources.list "$raiz/etc/apt/"
 cp -aL /etc/resolv.conf /etc/hosts "$raiz/etc/"
-mount --bind /dev "$raiz/dev"
+# With the pseudoterminals below it.
+mount --rbind /dev "$raiz/dev"
+mount --make-rslave "$raiz/dev"
 mount -t proc proc "$raiz/proc"
 
 # dentro USER HOME COMMAND: in the root, with a clean environment.
