@@ -33,11 +33,7 @@ bool TerminalDeLinux::puedeEnfocar() const {
   return std::ranges::find(ficha_.enfocableEn, sesion_) != ficha_.enfocableEn.end();
 }
 
-bool TerminalDeLinux::estaInstalada() const {
-  return aplicaciones_.hay(ficha_.identificador) ||
-         std::ranges::any_of(ficha_.programas,
-                             [this](std::string const& programa) { return aplicaciones_.hay(programa); });
-}
+bool TerminalDeLinux::estaInstalada() const { return zorve::estaInstalada(ficha_, aplicaciones_); }
 
 bool TerminalDeLinux::hospeda(std::string_view command) const {
   return std::ranges::find(ficha_.procesos, nombreBase(command)) != ficha_.procesos.end();
@@ -50,6 +46,12 @@ PlanDeApertura TerminalDeLinux::planParaAbrir(std::string const& cwd, std::strin
 std::expected<PlanDeApertura, IndexError> TerminalDeLinux::planParaEnfocar(std::string const& tty) const {
   if (!puedeEnfocar()) return NoSePuedeEnfocar{ttyCorto(tty)};
   return std::vector{ComandoDeApertura{rutaDelAyudante_, {"focus", ficha_.identificador, ttyCorto(tty)}}};
+}
+
+bool estaInstalada(FichaDeTerminal const& ficha, AplicacionesInstaladas const& aplicaciones) {
+  auto const hay = [&](std::string const& nombre) { return aplicaciones.hay(nombre); };
+  auto const& entrada = ficha.entradaDeEscritorio;
+  return std::ranges::any_of(ficha.programas, hay) || hay(entrada.substr(0, entrada.rfind('.')));
 }
 
 }  // namespace zorve

@@ -20,7 +20,6 @@ class TerminalDeLinux final : public Terminal {
   [[nodiscard]] std::string nombreDelBundle() const override;
   /// Whether its windows can be brought to the front in this graphical session.
   [[nodiscard]] bool puedeEnfocar() const override;
-  /// Whether the identifier or one of the executables is known to the system.
   [[nodiscard]] bool estaInstalada() const override;
   /// Whether the base name of `command` is one of the terminal's processes.
   [[nodiscard]] bool hospeda(std::string_view command) const override;
@@ -35,5 +34,8 @@ class TerminalDeLinux final : public Terminal {
   std::string rutaDelAyudante_;
   SesionGrafica sesion_;
 };
+
+/// Whether the system knows one of the terminal's executables, or its desktop entry.
+[[nodiscard]] bool estaInstalada(FichaDeTerminal const& ficha, AplicacionesInstaladas const& aplicaciones);
 
 }  // namespace zorve

@@ -2,7 +2,6 @@
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstdlib>
 
 #include "ZorveCore/Escape.h"
@@ -37,20 +36,6 @@ class Senal {
  private:
   std::string ruta_;
 };
-
-bool esDe(FichaDeTerminal const& ficha, std::string const& ruta) {
-  return std::ranges::find(ficha.programas, ruta.substr(ruta.rfind('/') + 1)) != ficha.programas.end();
-}
-
-/// The terminal's executable, or the empty text.
-std::string programaDe(FichaDeTerminal const& ficha, EntornoLinux const& lugares) {
-  for (auto const& nombre : ficha.programas) {
-    if (auto ruta = ejecutableEn(lugares, nombre); !ruta.empty()) return ruta;
-  }
-  auto const& entrada = ficha.entradaDeEscritorio;
-  auto ruta = programaDeLaEntrada(lugares, entrada.substr(0, entrada.rfind('.')));
-  return esDe(ficha, ruta) ? ruta : std::string{};
-}
 
 /// A window in a process of the terminal that waits for such. False when there is none.
 bool abrirEnLaQueHay(FichaDeTerminal const& ficha, EntornoLinux const& lugares,

@@ -19,10 +19,11 @@ std::unique_ptr<AplicacionesInstaladas> fijas(dobles::CarpetaTemporal const& /*c
 }
 
 std::unique_ptr<AplicacionesInstaladas> linux_(dobles::CarpetaTemporal const& carpeta) {
-  auto const programa = carpeta.escribir("bin/kitty", "#!/bin/sh\n");
-  std::filesystem::permissions(programa, std::filesystem::perms{0755});
+  for (auto const* const programa : {"bin/kitty", "opt/konsole"}) {
+    std::filesystem::permissions(carpeta.escribir(programa, "#!/bin/sh\n"), std::filesystem::perms{0755});
+  }
   carpeta.escribir("datos/applications/org.kde.konsole.desktop",
-                   "[Desktop Entry]\nExec=kitty --as konsole\n");
+                   "[Desktop Entry]\nExec=" + carpeta.dentro("opt/konsole") + "\n");
   return std::make_unique<AplicacionesLinux>(
       EntornoLinux{.path = {carpeta.dentro("bin")}, .datos = {carpeta.dentro("datos")}});
 }

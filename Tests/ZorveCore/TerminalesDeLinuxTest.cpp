@@ -71,13 +71,14 @@ TEST_P(CadaTerminalDeLinux, abreConUnaOrdenAlAyudanteYTodoEnArgumentos) {
   EXPECT_EQ(uno->planParaAbrir("/a 'b'\n", "claude -r 'x'"), esperado);
 }
 
-TEST_P(CadaTerminalDeLinux, estaInstaladaSiSeConoceSuProgramaOSuIdentificador) {
+TEST_P(CadaTerminalDeLinux, estaInstaladaSiSeConoceSuProgramaOSuEntradaDeEscritorio) {
   SoloHay const ninguna{{"otra"}};
   SoloHay const programa{{GetParam().programa}};
-  SoloHay const identificador{{GetParam().identificador}};
+  auto const archivo = fichaDeLinux(GetParam().identificador)->entradaDeEscritorio;
+  SoloHay const entrada{{archivo.substr(0, archivo.rfind('.'))}};
   EXPECT_FALSE(terminal(GetParam().identificador, ninguna)->estaInstalada());
   EXPECT_TRUE(terminal(GetParam().identificador, programa)->estaInstalada());
-  EXPECT_TRUE(terminal(GetParam().identificador, identificador)->estaInstalada());
+  EXPECT_TRUE(terminal(GetParam().identificador, entrada)->estaInstalada());
 }
 
 TEST_P(CadaTerminalDeLinux, hospedaASusProcesosYANingunOtro) {

@@ -103,6 +103,18 @@ TEST_F(AplicacionesLinuxTest, unaEntradaIlegibleSeSalta) {
   EXPECT_TRUE(hay("una"));
 }
 
+TEST_F(AplicacionesLinuxTest, laEntradaDeUnTerminalCuentaSiSuProgramaEsElDelTerminal) {
+  auto const ghostty = carpeta.escribir("opt/ghostty", "#!/bin/sh\n");
+  std::filesystem::permissions(ghostty, std::filesystem::perms{0755});
+  auto const conPrograma = [&](std::string const& programa) {
+    carpeta.escribir("datos/applications/com.mitchellh.ghostty.desktop",
+                     "[Desktop Entry]\nExec=" + programa + " run com.mitchellh.ghostty\n");
+    return hay("com.mitchellh.ghostty");
+  };
+  EXPECT_TRUE(conPrograma(ghostty));
+  EXPECT_FALSE(conPrograma("kitty")) << "a program that starts it in a way of its own";
+}
+
 TEST(EntradaDeEscritorio, blancosYFinalesDeLineaAjenosNoEstorban) {
   EXPECT_EQ(leerEntradaDeEscritorio("\r\n[Desktop Entry]\r\n Exec = \"a \\\\\"b\\\\\"\" x \r\nTryExec=t\r\n"),
             (EntradaDeEscritorio{.tryExec = "t", .programa = "a \"b\""}));

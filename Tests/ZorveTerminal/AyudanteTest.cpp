@@ -20,9 +20,11 @@ using dobles::Corrida;
 /// The helper, with a script in the place of every terminal.
 class Ayudante : public testing::Test {
  protected:
-  void terminal(std::string const& nombre, std::string const& guion) const {
-    auto const ruta = carpeta.escribir("bin/" + nombre, "#!/bin/sh\n" + guion);
+  std::string terminal(std::string const& nombre, std::string const& guion,
+                       std::string const& donde = "bin") const {
+    auto ruta = carpeta.escribir(donde + "/" + nombre, "#!/bin/sh\n" + guion);
     std::filesystem::permissions(ruta, std::filesystem::perms{0755});
+    return ruta;
   }
 
   [[nodiscard]] Corrida correr(std::vector<std::string> palabras) const {
@@ -30,6 +32,7 @@ class Ayudante : public testing::Test {
     return dobles::correr(palabras, {{"PATH", carpeta.dentro("bin") + ":/usr/bin:/bin"},
                                      {"HOME", carpeta.ruta()},
                                      {"SHELL", "/bin/sh"},
+                                     {"XDG_DATA_DIRS", carpeta.dentro("datos")},
                                      {"XDG_RUNTIME_DIR", carpeta.ruta()}});
   }
 
@@ -55,11 +58,18 @@ TEST_F(Ayudante, laAyudaNombraCadaTerminal) {
 }
 
 TEST_F(Ayudante, unTerminalQueNoEstaSeDice) {
-  auto const corrida = dobles::correr({ZORVE_TERMINAL, "open", "com.gexperts.Tilix", "/", "x"},
-                                      {{"PATH", carpeta.ruta()}, {"HOME", carpeta.ruta()}});
-  if (std::filesystem::exists("/usr/bin/tilix")) return;
+  auto const corrida =
+      dobles::correr({ZORVE_TERMINAL, "open", "com.gexperts.Tilix", "/", "x"},
+                     {{"PATH", carpeta.ruta()}, {"HOME", carpeta.ruta()}, {"XDG_DATA_DIRS", carpeta.ruta()}});
   EXPECT_EQ(corrida.codigo, 127);
   EXPECT_EQ(corrida.error, "zorve-terminal: Tilix is not installed\n");
+}
+
+TEST_F(Ayudante, unTerminalQueSoloTieneEntradaDeEscritorioSeAbrePorElla) {
+  auto const ghostty = terminal("ghostty", "exit 7\n", "opt");
+  carpeta.escribir("datos/applications/com.mitchellh.ghostty.desktop",
+                   "[Desktop Entry]\nExec=" + ghostty + " --gtk\n");
+  EXPECT_EQ(correr({"open", "ghostty-linux", "/", "x"}).codigo, 7);
 }
 
 TEST_F(Ayudante, elIdentificadorSeComparaSinMayusculas) {

@@ -1,5 +1,6 @@
 #include "ZorvePlatform/Linux/AplicacionesLinux.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 
@@ -30,6 +31,18 @@ bool esTerminalDesconocida(std::filesystem::path ruta) {
   return false;
 }
 
+/// The program of the desktop entry with this file name; empty when there is no such entry, it is hidden, or
+/// its program does not exist.
+std::string programaDeLaEntrada(EntornoLinux const& entorno, std::string const& archivo) {
+  for (auto const& datos : entorno.datos) {
+    auto const texto = leerArchivo(unirRuta(unirRuta(datos, "applications"), archivo), topeDeEntrada);
+    if (!texto) continue;
+    auto const entrada = leerEntradaDeEscritorio(*texto);
+    return entrada.oculta ? std::string{} : ejecutableEn(entorno, entrada.tryExec.value_or(entrada.programa));
+  }
+  return {};
+}
+
 }  // namespace
 
 AplicacionesLinux::AplicacionesLinux(EntornoLinux entorno) : entorno_{std::move(entorno)} {}
@@ -37,19 +50,21 @@ AplicacionesLinux::AplicacionesLinux(EntornoLinux entorno) : entorno_{std::move(
 bool AplicacionesLinux::hay(std::string const& identificador) const {
   if (identificador.empty() || identificador.contains('/') || identificador.contains('\0')) return false;
   if (identificador == cualquierOtra) return esTerminalDesconocida(ejecutableEn(entorno_, identificador));
-  return !ejecutableEn(entorno_, identificador).empty() ||
-         !programaDeLaEntrada(entorno_, identificador).empty();
+  if (!ejecutableEn(entorno_, identificador).empty()) return true;
+  auto const entrada = identificador + ".desktop";
+  auto const ficha = std::ranges::find(fichasDeLinux(), entrada, &FichaDeTerminal::entradaDeEscritorio);
+  return ficha == fichasDeLinux().end() ? !programaDeLaEntrada(entorno_, entrada).empty()
+                                        : !programaDe(*ficha, entorno_).empty();
 }
 
-std::string programaDeLaEntrada(EntornoLinux const& entorno, std::string const& identificador) {
-  for (auto const& datos : entorno.datos) {
-    auto const texto =
-        leerArchivo(unirRuta(unirRuta(datos, "applications"), identificador + ".desktop"), topeDeEntrada);
-    if (!texto) continue;
-    auto const entrada = leerEntradaDeEscritorio(*texto);
-    return entrada.oculta ? std::string{} : ejecutableEn(entorno, entrada.tryExec.value_or(entrada.programa));
+std::string programaDe(FichaDeTerminal const& ficha, EntornoLinux const& entorno) {
+  for (auto const& nombre : ficha.programas) {
+    if (auto ruta = ejecutableEn(entorno, nombre); !ruta.empty()) return ruta;
   }
-  return {};
+  auto ruta = programaDeLaEntrada(entorno, ficha.entradaDeEscritorio);
+  bool const suya =
+      std::ranges::find(ficha.programas, ruta.substr(ruta.rfind('/') + 1)) != ficha.programas.end();
+  return suya ? ruta : std::string{};
 }
 
 }  // namespace zorve

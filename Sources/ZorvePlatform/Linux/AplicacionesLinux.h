@@ -3,12 +3,14 @@
 #include <string>
 
 #include "ZorveCore/AplicacionesInstaladas.h"
+#include "ZorveCore/FichaDeTerminal.h"
 #include "ZorvePlatform/Linux/EntornoLinux.h"
 
 namespace zorve {
 
 /// Knows an application by an executable of that name in the PATH, or by a desktop entry of that name whose
-/// program exists. x-terminal-emulator counts only where it leads to none of the known terminals. Of several
+/// program exists; a known terminal's only if that program is one of its own, so that it can be opened.
+/// x-terminal-emulator counts only where it leads to none of the known terminals. Of several
 /// entries of one name the user's own decides, and a hidden one counts as none.
 class AplicacionesLinux final : public AplicacionesInstaladas {
  public:
@@ -20,8 +22,8 @@ class AplicacionesLinux final : public AplicacionesInstaladas {
   EntornoLinux entorno_;
 };
 
-/// The absolute path of the program that the desktop entry `identificador` (its file name without ".desktop")
-/// starts; empty when there is no such entry, it is hidden, or its program does not exist.
-[[nodiscard]] std::string programaDeLaEntrada(EntornoLinux const& entorno, std::string const& identificador);
+/// The absolute path of the terminal's executable: in the PATH, or where its desktop entry says; empty when
+/// there is none.
+[[nodiscard]] std::string programaDe(FichaDeTerminal const& ficha, EntornoLinux const& entorno);
 
 }  // namespace zorve

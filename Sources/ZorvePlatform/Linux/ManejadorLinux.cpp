@@ -11,6 +11,7 @@
 #include "ZorveCore/Archivos.h"
 #include "ZorveCore/CatalogoDeTerminales.h"
 #include "ZorveCore/FichaDeTerminal.h"
+#include "ZorveCore/TerminalDeLinux.h"
 #include "ZorvePlatform/Linux/AjusteDeKde.h"
 #include "ZorvePlatform/Linux/AplicacionesLinux.h"
 #include "ZorvePlatform/Linux/ProgramaAcotado.h"
@@ -74,13 +75,9 @@ std::optional<std::string> segunKdeglobals(LugaresDelManejador const& lugares) {
   return valor ? terminalDeLaOrden(*valor) : std::nullopt;
 }
 
-bool estaInstalada(EntornoLinux const& entorno, std::string const& identificador) {
-  AplicacionesLinux const aplicaciones{entorno};
+bool hay(EntornoLinux const& entorno, std::string const& identificador) {
   auto const* const ficha = fichaDeLinux(identificador);
-  return ficha != nullptr && (aplicaciones.hay(ficha->identificador) ||
-                              std::ranges::any_of(ficha->programas, [&](std::string const& programa) {
-                                return aplicaciones.hay(programa);
-                              }));
+  return ficha != nullptr && estaInstalada(*ficha, AplicacionesLinux{entorno});
 }
 
 std::string esquemaDe(std::string const& escritorio) {
@@ -159,7 +156,7 @@ std::optional<TerminalDelSistema> ManejadorLinux::buscar() const {
   for (auto const fuente : todasLasFuentes) {
     auto identificador = segun(fuente);
     if (!identificador) continue;
-    if (fuente == FuenteDelManejador::enlace || estaInstalada(lugares_.entorno, *identificador)) {
+    if (fuente == FuenteDelManejador::enlace || hay(lugares_.entorno, *identificador)) {
       return TerminalDelSistema{std::move(*identificador), fuente};
     }
   }
