@@ -7,6 +7,7 @@
 #include "ZorveCore/Escape.h"
 #include "ZorvePlatform/Linux/AplicacionesLinux.h"
 #include "ZorvePlatform/Linux/EntornoLinux.h"
+#include "ZorvePlatform/Posix/Hogar.h"
 #include "ZorveTerminal/Entorno.h"
 #include "ZorveTerminal/GuionDeShell.h"
 
@@ -65,7 +66,7 @@ std::vector<std::string> argumentosDe(FichaDeTerminal const& ficha,
 
 std::expected<void, FinTemprano> abrir(FichaDeTerminal const& ficha, std::string const& directorio,
                                        std::string const& comando, std::span<std::string const> entorno) {
-  auto const casa = casaDeLaPersona(entorno);
+  auto const casa = hogarDelUsuario().value_or("/");
   auto const lugares = EntornoLinux::delProceso(casa);
   auto const programa = programaDe(ficha, lugares);
   if (programa.empty()) return std::unexpected{FinTemprano{127, ficha.nombre + " is not installed"}};

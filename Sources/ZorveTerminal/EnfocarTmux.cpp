@@ -13,6 +13,7 @@
 #include "ZorveCore/TextoVisible.h"
 #include "ZorvePlatform/Linux/EntornoLinux.h"
 #include "ZorvePlatform/Linux/SesionGraficaLinux.h"
+#include "ZorvePlatform/Posix/Hogar.h"
 #include "ZorveTerminal/Abrir.h"
 #include "ZorveTerminal/Enfocar.h"
 #include "ZorveTerminal/Entorno.h"
@@ -96,7 +97,7 @@ class Enfoque {
   Enfoque(FichaDeTerminal const* elegida, std::span<std::string const> entorno)
       : elegida_{elegida},
         entorno_{entorno},
-        programa_{ejecutableEn(EntornoLinux::delProceso(casaDeLaPersona(entorno)), "tmux")} {}
+        programa_{ejecutableEn(EntornoLinux::delProceso(hogarDelUsuario().value_or("/")), "tmux")} {}
 
   [[nodiscard]] Hecho pane(std::string const& tty, int nivel) const;
 
@@ -178,7 +179,7 @@ Hecho Enfoque::enVentanaNueva(ServidorDeTmux const& servidor, std::string const&
                            "a terminal of yours: " +
                            textoVisible(orden)};
   }
-  auto const abierta = abrir(*elegida_, casaDeLaPersona(entorno_), orden, entorno_);
+  auto const abierta = abrir(*elegida_, hogarDelUsuario().value_or("/"), orden, entorno_);
   if (!abierta) return std::unexpected{abierta.error().mensaje};
   esperarAlClienteDe(pane.sesion, servidor);
   return {};

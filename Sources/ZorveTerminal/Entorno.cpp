@@ -7,6 +7,8 @@
 #include <array>
 #include <string_view>
 
+#include "ZorvePlatform/Linux/EntornoLinux.h"
+
 namespace zorve {
 
 namespace {
@@ -28,7 +30,7 @@ bool esAjena(std::string_view nombre) {
 }
 
 bool esEjecutable(std::string const& ruta) {
-  return ruta.starts_with('/') && ::access(ruta.c_str(), X_OK) == 0;
+  return ruta.starts_with('/') && !ejecutableEn(EntornoLinux{}, ruta).empty();
 }
 
 }  // namespace
@@ -39,12 +41,6 @@ std::vector<std::string> entornoLimpio(std::span<std::string const> entorno) {
     return !esAjena(variable.substr(0, variable.find('=')));
   });
   return limpio;
-}
-
-std::vector<std::string> entornoActual() {
-  std::vector<std::string> entorno;
-  for (char** variable = environ; *variable != nullptr; ++variable) entorno.emplace_back(*variable);
-  return entorno;
 }
 
 std::string valorEn(std::span<std::string const> entorno, std::string const& nombre) {
@@ -60,13 +56,6 @@ std::string shellDeLaPersona(std::span<std::string const> entorno) {
   passwd const* const cuenta = ::getpwuid(::getuid());
   if (cuenta != nullptr && esEjecutable(cuenta->pw_shell)) return cuenta->pw_shell;
   return "/bin/sh";
-}
-
-std::string casaDeLaPersona(std::span<std::string const> entorno) {
-  auto casa = valorEn(entorno, "HOME");
-  if (casa.starts_with('/')) return casa;
-  passwd const* const cuenta = ::getpwuid(::getuid());
-  return cuenta != nullptr && cuenta->pw_dir[0] == '/' ? cuenta->pw_dir : "/";
 }
 
 }  // namespace zorve

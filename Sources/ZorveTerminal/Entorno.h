@@ -10,17 +10,11 @@ namespace zorve {
 /// multiplexer it runs: a new window is none of them.
 [[nodiscard]] std::vector<std::string> entornoLimpio(std::span<std::string const> entorno);
 
-/// The variables of this process.
-[[nodiscard]] std::vector<std::string> entornoActual();
-
 /// The value of `nombre` in `entorno`, or the empty text.
 [[nodiscard]] std::string valorEn(std::span<std::string const> entorno, std::string const& nombre);
 
 /// The absolute path of the person's shell: $SHELL, else the account's entry, else /bin/sh; each only if it
 /// can be run.
 [[nodiscard]] std::string shellDeLaPersona(std::span<std::string const> entorno);
-
-/// The person's home directory: $HOME if it is absolute, else the account's entry, else "/".
-[[nodiscard]] std::string casaDeLaPersona(std::span<std::string const> entorno);
 
 }  // namespace zorve

@@ -9,10 +9,11 @@
 #include <string_view>
 #include <vector>
 
+#include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
+#include "ZorvePlatform/Posix/SenalesDeHijos.h"
 #include "ZorveTerminal/Abrir.h"
 #include "ZorveTerminal/Enfocar.h"
 #include "ZorveTerminal/EnfocarTmux.h"
-#include "ZorveTerminal/Entorno.h"
 
 namespace {
 
@@ -59,7 +60,7 @@ int abrirVentana(std::span<std::string const> args) {
     return quejarse("open takes a terminal, a directory and a command line", usoIncorrecto);
   auto const* const ficha = fichaDeLinux(args[0]);
   if (ficha == nullptr) return quejarse("unknown terminal: " + args[0], usoIncorrecto);
-  auto const resultado = abrir(*ficha, args[1], args[2], entornoActual());
+  auto const resultado = abrir(*ficha, args[1], args[2], entornoDelProceso());
   return resultado ? 0 : quejarse(resultado.error().mensaje, resultado.error().codigo);
 }
 
@@ -82,7 +83,7 @@ int enfocarPaneDeTmux(std::span<std::string const> args) {
     return quejarse("focus tmux takes a tty and a terminal", usoIncorrecto);
   }
   auto const* const elegida = args.size() == 2 ? fichaDeLinux(args[1]) : nullptr;
-  return enfocadoConPlazo([&] { return enfocarEnTmux(args[0], elegida, entornoActual()); });
+  return enfocadoConPlazo([&] { return enfocarEnTmux(args[0], elegida, entornoDelProceso()); });
 }
 
 int enfocarVentana(std::span<std::string const> args) {
@@ -118,6 +119,7 @@ void asegurarFlujos() {
 
 int main(int argc, char** argv) {
   asegurarFlujos();
+  recordarALosHijos();
   std::span<char* const> const crudos{argv, static_cast<std::size_t>(argc)};
   std::vector<std::string> args;
   for (auto const* const crudo : crudos.subspan(crudos.empty() ? 0 : 1)) args.emplace_back(crudo);

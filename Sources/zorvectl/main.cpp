@@ -3,6 +3,7 @@
 
 #include "ZorveApp/TextosDeEscritorio.h"
 #include "ZorvePlatform/Posix/ArchivosPosix.h"
+#include "ZorvePlatform/Posix/SenalesDeHijos.h"
 #include "ZorvePlatform/Posix/VidaDeProcesosPosix.h"
 #include "zorvectl/Ordenes.h"
 #include "zorvectl/Salida.h"
@@ -47,6 +48,7 @@ int correr(int cuantos, char** palabras) {
 }  // namespace
 
 int main(int cuantos, char** palabras) {
+  zorve::recordarALosHijos();
   try {
     return correr(cuantos, palabras);
   } catch (std::exception const& error) {

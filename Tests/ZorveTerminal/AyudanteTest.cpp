@@ -84,6 +84,14 @@ TEST_F(Ayudante, unTerminalQueSeCaeDaSuCodigoYSusPalabras) {
   EXPECT_EQ(corrida.error, "zorve-terminal: xterm was ended by signal 6 (Aborted): sin pantalla\n");
 }
 
+TEST_F(Ayudante, quienNoQuiereSaberDeSusHijosTambienSeEnteraDeUnFallo) {
+  terminal("xterm", "exit 5\n");
+  auto const corrida =
+      dobles::correr({"/usr/bin/env", "--ignore-signal=CHLD", ZORVE_TERMINAL, "open", "xterm", "/", "x"},
+                     {{"PATH", carpeta.dentro("bin") + ":/usr/bin:/bin"}, {"HOME", carpeta.ruta()}});
+  EXPECT_EQ(corrida.codigo, 5) << corrida.error;
+}
+
 TEST_F(Ayudante, correLaOrdenEnElDirectorioYNoDejaLaSenal) {
   terminal("xterm", "shift; exec \"$@\" </dev/null\n");
   auto const donde = carpeta.carpeta("un directorio");

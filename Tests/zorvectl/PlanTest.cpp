@@ -200,6 +200,14 @@ TEST_F(ZorvectlOpen, unAyudanteQueFallaSeDiceConSuCodigoYSuSalida) {
   EXPECT_THAT(corrida.error, HasSubstr("/zorve-terminal exited with code "));
 }
 
+TEST_F(ZorvectlOpen, quienNoQuiereSaberDeSusHijosTambienSeEnteraDelFallo) {
+  auto const corrida = dobles::correr({"/usr/bin/env", "--ignore-signal=CHLD", ZORVECTL, "open", "--cwd", "/",
+                                       "--command", "x", "--terminal", "xterm"},
+                                      {{"HOME", hogar.ruta()}, {"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}});
+  EXPECT_EQ(corrida.codigo, 1);
+  EXPECT_THAT(corrida.error, HasSubstr("/zorve-terminal exited with code "));
+}
+
 TEST_F(ZorvectlOpen, noPoderEnfocarEsUnFallo) {
   falla({"open", "--tty", "/dev/ttys004", "--terminal", "com.mitchellh.ghostty"},
         "The session is alive on ttys004 and Ghostty cannot bring its window to the front.");

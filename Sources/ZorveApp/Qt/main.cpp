@@ -27,6 +27,7 @@
 #include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
 #include "ZorvePlatform/Posix/Hogar.h"
 #include "ZorvePlatform/Posix/Local.h"
+#include "ZorvePlatform/Posix/SenalesDeHijos.h"
 #include "ZorvePlatform/Posix/VidaDeProcesosPosix.h"
 
 namespace {
@@ -165,6 +166,7 @@ int main(int cuantos, char** palabras) {
     std::fputs("zorve takes no arguments; zorvectl is its command line\n", stderr);
     return 2;
   }
+  recordarALosHijos();
   auto const testigo = Testigo::tomarDelEntorno();
   auto entorno = entornoDelProceso();
   acotarMemoria();
