@@ -8,8 +8,8 @@
 
 namespace zorve {
 
-/// What draws the person's windows: an X server alone, the compositor sway, or anything else.
-enum class SesionGrafica : std::uint8_t { otra, x11, sway };
+/// What draws the person's windows: an X server alone, the compositor sway or KWin, or anything else.
+enum class SesionGrafica : std::uint8_t { otra, x11, sway, kwin };
 
 /// Everything that tells one Linux terminal from another.
 struct FichaDeTerminal {

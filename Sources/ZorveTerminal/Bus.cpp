@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cstdlib>
 #include <string_view>
+#include <utility>
 
 namespace zorve {
 
@@ -184,6 +185,31 @@ Respuesta Bus::llamar(Metodo const& metodo, std::span<Argumento const> argumento
   DBusMessageIter donde;
   if (dbus_message_iter_init(respuesta.get(), &donde) != 0) leer(donde, datos);
   return datos;
+}
+
+std::string Bus::nombre() const {
+  char const* const suyo = abierto() ? dbus_bus_get_unique_name(conexion_->bus) : nullptr;
+  return suyo != nullptr ? suyo : "";
+}
+
+std::optional<std::string> Bus::recibir(std::string const& interfaz, std::string const& metodo,
+                                        std::chrono::milliseconds plazo) const {
+  using Reloj = std::chrono::steady_clock;
+  auto const limite = Reloj::now() + plazo;
+  while (abierto()) {
+    for (Mensaje mensaje{dbus_connection_pop_message(conexion_->bus)}; mensaje;
+         mensaje.reset(dbus_connection_pop_message(conexion_->bus))) {
+      if (dbus_message_is_method_call(mensaje.get(), interfaz.c_str(), metodo.c_str()) == 0) continue;
+      std::vector<DatoDeRespuesta> datos;
+      DBusMessageIter donde;
+      if (dbus_message_iter_init(mensaje.get(), &donde) != 0) leer(donde, datos);
+      auto* const texto = datos.empty() ? nullptr : std::get_if<std::string>(&datos.front());
+      if (texto != nullptr) return std::move(*texto);
+    }
+    auto const resto = std::chrono::ceil<std::chrono::milliseconds>(limite - Reloj::now()).count();
+    if (resto <= 0 || dbus_connection_read_write(conexion_->bus, static_cast<int>(resto)) == 0) break;
+  }
+  return std::nullopt;
 }
 
 pid_t Bus::procesoDe(std::string const& servicio) const {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <expected>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -58,6 +59,11 @@ class Bus {
   /// Waits for the answer no longer than `plazo`.
   [[nodiscard]] Respuesta llamar(Metodo const& metodo, std::span<Argumento const> argumentos = {},
                                  std::chrono::milliseconds plazo = std::chrono::milliseconds{1500}) const;
+  /// This connection's own name on the bus.
+  [[nodiscard]] std::string nombre() const;
+  /// Waits until somebody calls that method of ours, and gives the call's first text.
+  [[nodiscard]] std::optional<std::string> recibir(std::string const& interfaz, std::string const& metodo,
+                                                   std::chrono::milliseconds plazo) const;
   /// The process behind a name on the bus, or 0.
   [[nodiscard]] pid_t procesoDe(std::string const& servicio) const;
   /// The numbers of the objects directly below `objeto` that are named `prefijo` and a number, ascending.

@@ -80,7 +80,7 @@ class PestanasDeGnomeTerminal final : public Pestanas {
   /// The terminal takes any number, and shows nothing else for one that is too high.
   void poner(std::int32_t pestana) const {
     std::vector<Argumento> const argumentos{"active-tab", Variante{pestana}, SinOpciones{}};
-    (void)bus_.llamar(metodo("SetState"), argumentos);
+    [[maybe_unused]] auto const puesta = bus_.llamar(metodo("SetState"), argumentos);
   }
 
   void dejarVentana() {

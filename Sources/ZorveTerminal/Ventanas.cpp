@@ -1,6 +1,7 @@
 #include "ZorveTerminal/Ventanas.h"
 
 #include "ZorveTerminal/Sway.h"
+#include "ZorveTerminal/VentanasDeKWin.h"
 #include "ZorveTerminal/VentanasX.h"
 
 namespace zorve {
@@ -11,6 +12,8 @@ std::unique_ptr<Ventanas> ventanasDe(SesionGrafica sesion) {
       return std::make_unique<VentanasX>();
     case SesionGrafica::sway:
       return std::make_unique<Sway>();
+    case SesionGrafica::kwin:
+      return std::make_unique<VentanasDeKWin>();
     case SesionGrafica::otra:
       break;
   }

@@ -117,6 +117,7 @@ TEST(Enfocar, unTtyQueNoExisteSeDiceEnUnaFrase) {
 TEST(Enfocar, unServidorQueNoContestaNoDetieneANadieMasDeDiezSegundos) {
   Escritorio escritorio{Escritorio::Pantalla::ninguna};
   int const oyente = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  ASSERT_GE(oyente, 0);
   sockaddr_in direccion{};
   direccion.sin_family = AF_INET;
   direccion.sin_addr.s_addr = htonl(INADDR_LOOPBACK);

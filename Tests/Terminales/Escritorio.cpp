@@ -117,6 +117,7 @@ Escritorio::Escritorio(Pantalla pantalla, std::string const& gestorDeVentanas)
   try {
     if (pantalla == Pantalla::x11) empezarX(gestorDeVentanas);
     if (pantalla == Pantalla::wayland) empezarSway();
+    if (pantalla == Pantalla::kwin) empezarKWin();
   } catch (...) {
     terminarTodo();
     throw;
@@ -200,30 +201,6 @@ void Escritorio::empezarX(std::string const& gestorDeVentanas) {
     if (esperarA(manda, 10s)) return;
   }
   throw std::runtime_error("no window manager: " + gestorDeVentanas);
-}
-
-void Escritorio::empezarSway() {
-  variables["WLR_BACKENDS"] = "headless";
-  variables["WLR_LIBINPUT_NO_DEVICES"] = "1";
-  variables["WLR_RENDERER"] = "pixman";
-  variables["XDG_SESSION_TYPE"] = "wayland";
-  empezarBus();
-  casa_.escribir("sway.conf", "output HEADLESS-1 resolution 1600x1000\nxwayland disable\n");
-  empezar({"sway", "-c", casa_.dentro("sway.conf")});
-  auto const aparece = [this](std::string const& principio, std::string const& variable) {
-    for (auto const& entrada : std::filesystem::directory_iterator{casa_.dentro("r")}) {
-      auto const nombre = entrada.path().filename().string();
-      if (!nombre.starts_with(principio) || nombre.ends_with(".lock")) continue;
-      variables[variable] = variable == "SWAYSOCK" ? entrada.path().string() : nombre;
-      return true;
-    }
-    return false;
-  };
-  if (!esperarA([&] { return aparece("wayland-", "WAYLAND_DISPLAY") && aparece("sway-ipc", "SWAYSOCK"); })) {
-    throw std::runtime_error("no sway: " + leerArchivoDePrueba(casa_.dentro("registro-sway.error")));
-  }
-  // The bus came first; what it starts needs to know the display.
-  (void)correr({"dbus-update-activation-environment", "WAYLAND_DISPLAY", "SWAYSOCK"});
 }
 
 std::vector<Anotado> Escritorio::anotados(std::size_t cuantos) const {

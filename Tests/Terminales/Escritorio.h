@@ -43,7 +43,7 @@ struct Anotado {
 /// was started with its runtime directory, by pid.
 class Escritorio {
  public:
-  enum class Pantalla { x11, wayland, ninguna };
+  enum class Pantalla { x11, wayland, kwin, ninguna };
 
   explicit Escritorio(Pantalla pantalla, std::string const& gestorDeVentanas = "openbox");
   Escritorio(Escritorio const&) = delete;
@@ -72,6 +72,9 @@ class Escritorio {
   void empezarBus();
   void empezarX(std::string const& gestorDeVentanas);
   void empezarSway();
+  void empezarKWin();
+  /// Waits for a socket in the runtime directory, and names it in the variable.
+  [[nodiscard]] bool esperarEnchufe(std::string const& principio, std::string const& variable);
   [[nodiscard]] std::vector<std::string> entorno() const;
   [[nodiscard]] std::vector<pid_t> procesosPropios() const;
   void terminarTodo() const;

@@ -34,7 +34,7 @@ class Sesiones {
   [[nodiscard]] pid_t anfitrionDe(std::size_t cual) const;
   /// A variable of the shell that started the session.
   [[nodiscard]] std::string variableDe(std::size_t cual, std::string const& nombre) const;
-  /// The identifiers of the windows on this desktop.
+  /// The identifiers of the windows on this desktop; none where only KWin knows them.
   [[nodiscard]] std::vector<std::string> ventanas() const;
   /// Runs a program in this desktop; its words appear where it fails.
   [[nodiscard]] bool hacer(std::vector<std::string> const& palabras) const;
@@ -43,6 +43,8 @@ class Sesiones {
   std::vector<Anotado> sesiones;
 
  private:
+  [[nodiscard]] bool sabeLasVentanas() const;
+
   FichaDeTerminal ficha_;
 };
 

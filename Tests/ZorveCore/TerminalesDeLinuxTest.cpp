@@ -93,7 +93,8 @@ TEST_P(CadaTerminalDeLinux, hospedaASusProcesosYANingunOtro) {
 
 TEST(TerminalesDeLinux, soloEnfocaLaQuePuedeEnSuSesionGrafica) {
   SoloHay const ninguna{{}};
-  for (auto const sesion : {SesionGrafica::otra, SesionGrafica::x11, SesionGrafica::sway}) {
+  for (auto const sesion :
+       {SesionGrafica::otra, SesionGrafica::x11, SesionGrafica::sway, SesionGrafica::kwin}) {
     for (auto const& uno : terminalesDeLinux(ninguna, "/z", sesion)) {
       auto const& donde = fichaDeLinux(uno->identificador())->enfocableEn;
       bool const puede = std::ranges::find(donde, sesion) != donde.end();

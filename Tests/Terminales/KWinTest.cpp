@@ -1,0 +1,70 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "Terminales/Sesiones.h"
+
+namespace zorve::pruebas {
+namespace {
+
+constexpr char const* llega = "\033[I";
+constexpr char const* seVa = "\033[O";
+/// What an answer to the question for its attributes (DA1) begins with.
+constexpr char const* contesta = "\033[?";
+
+/// Two windows under KWin, where nobody else can press keys: their terminals tell each session when it gets
+/// the keyboard and when it loses it (xterm's focus reports). With --all alone.
+class DosVentanasDeKWinLargo : public testing::TestWithParam<FichaDeTerminal> {
+ protected:
+  static bool toca() { return conLosLargos() && programaInstalado("kwin_wayland"); }
+
+  DosVentanasDeKWinLargo()
+      : dos{GetParam(), toca() ? Escritorio::Pantalla::kwin : Escritorio::Pantalla::ninguna} {
+    auto const casa = dos.escritorio.casa().ruta();
+    dos.escritorio.programa("claude", "n=$(mktemp '" + casa + "/anotados/t.XXXXXX') || exit 1\n" +
+                                          "printf '%s\\0' \"$(pwd -P; echo .)\" \"$(tty)\" \"$$\" >\"$n\"\n" +
+                                          "mv \"$n\" '" + casa + "/anotados/'$$\nstty -icanon -echo\n" +
+                                          "printf '\\033[?1004h\\033[c'\nexec cat >>'" + casa +
+                                          "/teclas/'$$\n");
+  }
+
+  /// Waits until its terminal has answered, and so was asked for reports.
+  [[nodiscard]] bool abrir(std::size_t cual) {
+    return dos.abrirVentana() && esperarA([&] { return dos.teclasDe(cual).contains(contesta); });
+  }
+
+  void elTecladoEstaEn(std::size_t cual) const {
+    auto const acabaEn = [this](std::size_t sesion, char const* informe) {
+      return esperarA([&] { return dos.teclasDe(sesion).ends_with(informe); }, std::chrono::seconds{10});
+    };
+    EXPECT_TRUE(acabaEn(cual, llega)) << "session " << cual;
+    EXPECT_TRUE(acabaEn(1 - cual, seVa)) << "session " << 1 - cual;
+  }
+
+  void elTecladoVaA(std::size_t cual) const {
+    auto const corrida = dos.enfocar(cual);
+    ASSERT_EQ(corrida.codigo, 0) << corrida.error;
+    elTecladoEstaEn(cual);
+  }
+
+  Sesiones dos;
+};
+
+INSTANTIATE_TEST_SUITE_P(Linux, DosVentanasDeKWinLargo, testing::ValuesIn(enfocables(SesionGrafica::kwin)),
+                         nombreDelTerminal);
+
+TEST_P(DosVentanasDeKWinLargo, elTecladoPasaALaSesionEnfocadaTambienEnOtroEscritorio) {
+  if (!toca() || !estaAqui(GetParam())) return;
+  ASSERT_TRUE(abrir(0) && abrir(1));
+  ASSERT_TRUE(esperarA([&] { return dos.teclasDe(0).ends_with(seVa); }))
+      << "the second window takes the keyboard";
+  elTecladoVaA(0);
+  elTecladoVaA(1);
+  ASSERT_TRUE(dos.hacer({"dbus-send", "--session", "--print-reply", "--dest=org.kde.KWin", "/KWin",
+                         "org.kde.KWin.setCurrentDesktop", "int32:2"}));
+  ASSERT_TRUE(esperarA([&] { return dos.teclasDe(1).ends_with(seVa); }));
+  elTecladoVaA(0);
+}
+
+}  // namespace
+}  // namespace zorve::pruebas
