@@ -1,8 +1,6 @@
 #include "ZorveTerminal/Lanzamiento.h"
 
-#include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
 #include <sys/inotify.h>
 #include <sys/mman.h>
 #include <sys/syscall.h>
@@ -17,6 +15,7 @@
 #include <system_error>
 
 #include "ZorvePlatform/Posix/Descriptor.h"
+#include "ZorvePlatform/Posix/ProcesoHijo.h"
 
 namespace zorve {
 
@@ -25,14 +24,6 @@ namespace {
 using Reloj = std::chrono::steady_clock;
 
 constexpr std::size_t maximoDePalabras = 4096;
-
-std::vector<char*> punteros(std::vector<std::string>& textos) {
-  std::vector<char*> resultado;
-  resultado.reserve(textos.size() + 1);
-  for (auto& texto : textos) resultado.push_back(texto.data());
-  resultado.push_back(nullptr);
-  return resultado;
-}
 
 std::string nombreBase(std::string const& ruta) { return ruta.substr(ruta.rfind('/') + 1); }
 
@@ -46,28 +37,12 @@ int empezar(Lanzamiento const& lanzamiento, int salida, pid_t& pid) {
   auto palabras = lanzamiento.args;
   palabras.insert(palabras.begin(), lanzamiento.ejecutable);
   auto variables = lanzamiento.entorno;
-  posix_spawn_file_actions_t acciones;
-  posix_spawn_file_actions_init(&acciones);
-  posix_spawn_file_actions_addopen(&acciones, 0, "/dev/null", O_RDONLY, 0);
-  posix_spawn_file_actions_adddup2(&acciones, salida, 1);
-  posix_spawn_file_actions_adddup2(&acciones, salida, 2);
-  posix_spawn_file_actions_addclosefrom_np(&acciones, 3);
-  posix_spawn_file_actions_addchdir_np(&acciones, dondeEmpieza(lanzamiento.directorio).c_str());
-  posix_spawnattr_t atributos;
-  posix_spawnattr_init(&atributos);
-  sigset_t ninguna;
-  sigset_t cualquiera;
-  sigemptyset(&ninguna);
-  sigfillset(&cualquiera);
-  posix_spawnattr_setsigmask(&atributos, &ninguna);
-  posix_spawnattr_setsigdefault(&atributos, &cualquiera);
-  posix_spawnattr_setflags(
-      &atributos, static_cast<short>(POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF));
-  int const codigo = ::posix_spawn(&pid, lanzamiento.ejecutable.c_str(), &acciones, &atributos,
-                                   punteros(palabras).data(), punteros(variables).data());
-  posix_spawnattr_destroy(&atributos);
-  posix_spawn_file_actions_destroy(&acciones);
-  return codigo;
+  AccionesDelHijo acciones{salida, salida};
+  acciones.empezarEn(dondeEmpieza(lanzamiento.directorio));
+  AtributosDelHijo const atributos{POSIX_SPAWN_SETSID};
+  if (int const codigo = std::max(acciones.codigo(), atributos.codigo()); codigo != 0) return codigo;
+  return ::posix_spawn(&pid, lanzamiento.ejecutable.c_str(), acciones.puntero(), atributos.puntero(),
+                       punteros(palabras).data(), punteros(variables).data());
 }
 
 std::string_view sinBlancos(std::string_view texto) {
@@ -125,6 +100,11 @@ FinTemprano finDe(std::string const& programa, int estado, int salida) {
   return fin;
 }
 
+std::unexpected<FinTemprano> noEmpieza(std::string const& programa, int codigo) {
+  return std::unexpected{
+      FinTemprano{127, programa + " could not be started: " + std::generic_category().message(codigo)}};
+}
+
 /// Waits until `proceso` ends, `vigia` (-1 for none) has something to say or the time is over. True if it was
 /// `vigia`.
 bool esperarLaSenal(int proceso, int vigia, Reloj::time_point limite) {
@@ -144,14 +124,13 @@ std::expected<void, FinTemprano> lanzar(Lanzamiento const& lanzamiento, std::chr
   auto const limite = Reloj::now() + plazo;
   auto const programa = nombreBase(lanzamiento.ejecutable);
   Descriptor const salida{::memfd_create("zorve-terminal", MFD_CLOEXEC)};
+  if (!salida) return noEmpieza(programa, errno);
   Descriptor const vigia{::inotify_init1(IN_CLOEXEC | IN_NONBLOCK)};
   auto const vigila = !lanzamiento.senal.empty() &&
                       ::inotify_add_watch(vigia.numero(), lanzamiento.senal.c_str(), IN_DELETE_SELF) >= 0;
   pid_t pid = 0;
-  if (int const codigo = empezar(lanzamiento, salida.numero(), pid); codigo != 0) {
-    return std::unexpected{
-        FinTemprano{127, programa + " could not be started: " + std::generic_category().message(codigo)}};
-  }
+  int const codigo = empezar(lanzamiento, salida.numero(), pid);
+  if (codigo != 0) return noEmpieza(programa, codigo);
   Descriptor const proceso{static_cast<int>(::syscall(SYS_pidfd_open, pid, 0))};
   if (esperarLaSenal(proceso.numero(), vigila ? vigia.numero() : -1, limite)) return {};
   int estado = 0;

@@ -1,6 +1,7 @@
 #include "ZorveTerminal/Lanzamiento.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -87,6 +88,20 @@ TEST_F(Lanzado, loQueNoExisteNoSePuedeEmpezar) {
   ASSERT_FALSE(fin);
   EXPECT_EQ(fin.error().codigo, 127);
   EXPECT_EQ(fin.error().mensaje, "nada could not be started: No such file or directory");
+}
+
+TEST_F(Lanzado, sinDondeGuardarSusPalabrasNadaSeEmpieza) {
+  rlimit antes{};
+  ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &antes), 0);
+  int const libre = ::dup(STDERR_FILENO);
+  ::close(libre);
+  rlimit const ninguno{.rlim_cur = static_cast<rlim_t>(libre), .rlim_max = antes.rlim_max};
+  ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &ninguno), 0);
+  auto const fin = lanzar(guion(": >$1/empezado"), mucho);
+  ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &antes), 0);
+  ASSERT_FALSE(fin);
+  EXPECT_EQ(fin.error().mensaje, "sh could not be started: Too many open files");
+  EXPECT_FALSE(std::filesystem::exists(carpeta.dentro("empezado")));
 }
 
 TEST_F(Lanzado, loQueTerminaBienHaSalidoBien) { EXPECT_TRUE(lanzar(guion("echo aviso >&2"), mucho)); }

@@ -2,8 +2,8 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <array>
 #include <cerrno>
@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "ZorvePlatform/Posix/Descriptor.h"
+#include "ZorvePlatform/Posix/ProcesoHijo.h"
 
 namespace zorve {
 
@@ -20,39 +21,16 @@ using Reloj = std::chrono::steady_clock;
 
 constexpr std::size_t maximoDeSalida = 64UL * 1024;
 
-std::vector<char*> punteros(std::vector<std::string>& textos) {
-  std::vector<char*> resultado;
-  resultado.reserve(textos.size() + 1);
-  for (auto& texto : textos) resultado.push_back(texto.data());
-  resultado.push_back(nullptr);
-  return resultado;
-}
-
 /// Starts the program in a process group of its own that writes to `escritura`; 0 when it cannot.
 pid_t empezar(std::string const& ruta, std::span<std::string const> args, int escritura) {
   std::vector<std::string> palabras{args.begin(), args.end()};
   palabras.insert(palabras.begin(), ruta);
-  posix_spawn_file_actions_t acciones;
-  posix_spawn_file_actions_init(&acciones);
-  posix_spawn_file_actions_adddup2(&acciones, escritura, STDOUT_FILENO);
-  posix_spawn_file_actions_addopen(&acciones, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-  posix_spawn_file_actions_addopen(&acciones, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-  posix_spawn_file_actions_addclosefrom_np(&acciones, STDERR_FILENO + 1);
-  posix_spawnattr_t atributos;
-  posix_spawnattr_init(&atributos);
-  sigset_t ninguna;
-  sigset_t cualquiera;
-  sigemptyset(&ninguna);
-  sigfillset(&cualquiera);
-  posix_spawnattr_setsigmask(&atributos, &ninguna);
-  posix_spawnattr_setsigdefault(&atributos, &cualquiera);
-  posix_spawnattr_setflags(
-      &atributos, static_cast<short>(POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF));
+  AccionesDelHijo const acciones{escritura, -1};
+  AtributosDelHijo const atributos{POSIX_SPAWN_SETPGROUP};
+  if (acciones.codigo() != 0 || atributos.codigo() != 0) return 0;
   pid_t pid = 0;
-  int const codigo =
-      ::posix_spawn(&pid, ruta.c_str(), &acciones, &atributos, punteros(palabras).data(), environ);
-  posix_spawnattr_destroy(&atributos);
-  posix_spawn_file_actions_destroy(&acciones);
+  int const codigo = ::posix_spawn(&pid, ruta.c_str(), acciones.puntero(), atributos.puntero(),
+                                   punteros(palabras).data(), environ);
   return codigo == 0 ? pid : 0;
 }
 

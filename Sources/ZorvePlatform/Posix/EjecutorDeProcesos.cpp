@@ -1,7 +1,6 @@
 #include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
 
 #include <fcntl.h>
-#include <signal.h>  // NOLINT(modernize-deprecated-headers): sigset_t is POSIX, not C++
 #include <spawn.h>
 #include <sys/wait.h>
 
@@ -14,6 +13,7 @@
 
 #include "ZorveCore/Texto.h"
 #include "ZorvePlatform/Posix/Descriptor.h"
+#include "ZorvePlatform/Posix/ProcesoHijo.h"
 
 extern char** environ;  // NOLINT(readability-redundant-declaration)
 
@@ -40,96 +40,10 @@ std::expected<Tubo, FalloDelSistema> nuevoTubo() {
   return tubo;
 }
 
-/// What the child does with its descriptors before it becomes the program.
-class AccionesDelHijo {
- public:
-  explicit AccionesDelHijo(int escritura) {
-    codigo_ = ::posix_spawn_file_actions_init(&acciones_);
-    iniciadas_ = codigo_ == 0;
-    anotar([&] { return ::posix_spawn_file_actions_adddup2(&acciones_, escritura, STDOUT_FILENO); });
-    anotar([&] { return ::posix_spawn_file_actions_adddup2(&acciones_, escritura, STDERR_FILENO); });
-    anotar([&] {
-      return ::posix_spawn_file_actions_addopen(&acciones_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-    });
-#if defined(__GLIBC__)
-    anotar([&] { return ::posix_spawn_file_actions_addclosefrom_np(&acciones_, STDERR_FILENO + 1); });
-#endif
-  }
-  AccionesDelHijo(AccionesDelHijo const&) = delete;
-  AccionesDelHijo& operator=(AccionesDelHijo const&) = delete;
-  ~AccionesDelHijo() {
-    if (iniciadas_) ::posix_spawn_file_actions_destroy(&acciones_);
-  }
-
-  [[nodiscard]] int codigo() const { return codigo_; }
-  [[nodiscard]] posix_spawn_file_actions_t const* puntero() const { return &acciones_; }
-
- private:
-  template <class Accion>
-  void anotar(Accion accion) {
-    if (codigo_ == 0) codigo_ = accion();
-  }
-
-  posix_spawn_file_actions_t acciones_{};
-  int codigo_ = 0;
-  bool iniciadas_ = false;
-};
-
-/// The child's signals: each at its default, none blocked.
-class AtributosDelHijo {
- public:
-  AtributosDelHijo() {
-    codigo_ = ::posix_spawnattr_init(&atributos_);
-    iniciados_ = codigo_ == 0;
-    sigset_t normales{};
-    sigset_t ninguna{};
-    sigfillset(&normales);
-    sigdelset(&normales, SIGKILL);
-    sigdelset(&normales, SIGSTOP);
-    sigemptyset(&ninguna);
-    anotar([&] { return ::posix_spawnattr_setsigdefault(&atributos_, &normales); });
-    anotar([&] { return ::posix_spawnattr_setsigmask(&atributos_, &ninguna); });
-    anotar([&] { return ::posix_spawnattr_setflags(&atributos_, banderas()); });
-  }
-  AtributosDelHijo(AtributosDelHijo const&) = delete;
-  AtributosDelHijo& operator=(AtributosDelHijo const&) = delete;
-  ~AtributosDelHijo() {
-    if (iniciados_) ::posix_spawnattr_destroy(&atributos_);
-  }
-
-  [[nodiscard]] int codigo() const { return codigo_; }
-  [[nodiscard]] posix_spawnattr_t const* puntero() const { return &atributos_; }
-
- private:
-  static short banderas() {
-    unsigned todas = POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK;
-#if defined(POSIX_SPAWN_CLOEXEC_DEFAULT)
-    todas |= POSIX_SPAWN_CLOEXEC_DEFAULT;
-#endif
-    return static_cast<short>(todas);
-  }
-  template <class Accion>
-  void anotar(Accion accion) {
-    if (codigo_ == 0) codigo_ = accion();
-  }
-
-  posix_spawnattr_t atributos_{};
-  int codigo_ = 0;
-  bool iniciados_ = false;
-};
-
 struct Hijo {
   pid_t pid = 0;
   Descriptor lectura;
 };
-
-std::vector<char*> punteros(std::vector<std::string>& textos) {
-  std::vector<char*> resultado;
-  resultado.reserve(textos.size() + 1);
-  for (auto& texto : textos) resultado.push_back(texto.data());
-  resultado.push_back(nullptr);
-  return resultado;
-}
 
 std::expected<Hijo, FalloDelSistema> lanzar(std::vector<std::string> palabras,
                                             std::vector<std::string> entorno) {
@@ -137,7 +51,7 @@ std::expected<Hijo, FalloDelSistema> lanzar(std::vector<std::string> palabras,
   std::scoped_lock const turno{unoALaVez};
   auto tubo = nuevoTubo();
   if (!tubo) return std::unexpected{std::move(tubo).error()};
-  AccionesDelHijo const acciones{tubo->escritura.numero()};
+  AccionesDelHijo const acciones{tubo->escritura.numero(), tubo->escritura.numero()};
   AtributosDelHijo const atributos;
   if (int const codigo = std::max(acciones.codigo(), atributos.codigo()); codigo != 0) return fallo(codigo);
   Hijo hijo{0, std::move(tubo->lectura)};
