@@ -5,10 +5,12 @@
 #include <string>
 #include <vector>
 
+#include "Dobles/AplicacionesFijas.h"
 #include "Terminales/CadaTerminal.h"
 #include "Terminales/Escritorio.h"
 #include "ZorveCore/Escape.h"
 #include "ZorveCore/FichaDeTerminal.h"
+#include "ZorveCore/TerminalDeLinux.h"
 
 namespace zorve::pruebas {
 namespace {
@@ -33,6 +35,18 @@ std::vector<std::string> directoriosHostiles() {
 
 class CadaTerminal : public testing::TestWithParam<FichaDeTerminal> {
  protected:
+  /// Whether the driver knows one of the processes that the session descends from as its own, by what ps
+  /// says.
+  static bool laHospeda(Escritorio const& escritorio, pid_t pid) {
+    dobles::AplicacionesFijas const ninguna;
+    TerminalDeLinux const terminal{GetParam(), ninguna, "", SesionGrafica::otra};
+    for (; pid > 1; pid = procesoDe(pid).padre) {
+      auto const comm = escritorio.correr({"ps", "-o", "comm=", "-p", std::to_string(pid)}).salida;
+      if (terminal.hospeda(comm.substr(0, comm.find('\n')))) return true;
+    }
+    return false;
+  }
+
   static void abreEn(Escritorio const& escritorio, std::string const& nombre) {
     auto const directorio = escritorio.casa().carpeta("d/" + nombre);
     auto const corrida = escritorio.ayudante(
@@ -41,10 +55,11 @@ class CadaTerminal : public testing::TestWithParam<FichaDeTerminal> {
     EXPECT_EQ(corrida.error, "");
     auto const anotados = escritorio.anotados(1);
     ASSERT_EQ(anotados.size(), 1U)
-        << escritorio.correr({"ps", "-o", "pid,ppid,stat,args", "-U", "65534"}).salida;
+        << escritorio.correr({"ps", "-o", "pid,ppid,stat,comm", "-U", "65534"}).salida;
     EXPECT_EQ(anotados[0].directorio, std::filesystem::canonical(directorio).string());
     EXPECT_EQ(anotados[0].args, (std::vector<std::string>{"-r", nombre}));
     EXPECT_TRUE(anotados[0].tty.starts_with("/dev/pts/")) << anotados[0].tty;
+    EXPECT_EQ(laHospeda(escritorio, anotados[0].pid), !GetParam().esCualquierOtra);
     escritorio.olvidar();
   }
 };
@@ -55,13 +70,13 @@ INSTANTIATE_TEST_SUITE_P(Linux, CadaTerminal,
 
 TEST_P(CadaTerminal, abreEnElDirectorioYEntregaLosArgumentosByteAByte) {
   if (!estaAqui(GetParam())) return;
-  Escritorio const escritorio{pantallaDe(GetParam())};
+  EscritorioDe const escritorio{GetParam()};
   abreEn(escritorio, raro);
 }
 
 TEST_P(CadaTerminal, sinPantallaFallaConSusPropiasPalabrasEnTresSegundos) {
   if (!estaAqui(GetParam())) return;
-  Escritorio const escritorio{Escritorio::Pantalla::ninguna};
+  EscritorioDe const escritorio{GetParam(), Escritorio::Pantalla::ninguna};
   auto const empieza = std::chrono::steady_clock::now();
   auto const corrida =
       escritorio.ayudante({"open", GetParam().identificador, escritorio.casa().ruta(), "claude"});
@@ -75,7 +90,7 @@ TEST_P(CadaTerminal, sinPantallaFallaConSusPropiasPalabrasEnTresSegundos) {
 
 TEST_P(CadaTerminal, largoSinBusDeSesionAbreOFallaConSusPropiasPalabrasEnTresSegundos) {
   if (!conLosLargos() || !estaAqui(GetParam())) return;
-  Escritorio escritorio{pantallaDe(GetParam())};
+  EscritorioDe escritorio{GetParam()};
   escritorio.variables["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=" + escritorio.casa().dentro("nada");
   auto const empieza = std::chrono::steady_clock::now();
   auto const corrida =
@@ -94,7 +109,7 @@ TEST_P(CadaTerminal, largoSinBusDeSesionAbreOFallaConSusPropiasPalabrasEnTresSeg
 TEST_P(CadaTerminal, largoAbreEnCadaDirectorioHostilConCadaGestorDeVentanas) {
   if (!conLosLargos() || !estaAqui(GetParam())) return;
   for (auto const* const gestor : {"openbox", "xfwm4"}) {
-    Escritorio const escritorio{pantallaDe(GetParam()), gestor};
+    EscritorioDe const escritorio{GetParam(), gestor};
     for (auto const& nombre : directoriosHostiles()) abreEn(escritorio, nombre);
   }
 }

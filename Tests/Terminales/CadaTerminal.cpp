@@ -2,12 +2,20 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <iterator>
 #include <sstream>
 #include <string_view>
 
 namespace zorve::pruebas {
+
+namespace {
+
+/// A terminal of Debian without a row in the table.
+constexpr char const* terminalDesconocida = "urxvt";
+
+}  // namespace
 
 Proceso procesoDe(pid_t pid) {
   auto const linea = leerArchivoDePrueba("/proc/" + std::to_string(pid) + "/stat");
@@ -24,13 +32,23 @@ bool conLosLargos() {
 }
 
 bool estaAqui(FichaDeTerminal const& ficha) {
-  if (programaInstalado(ficha.programas.front())) return true;
+  if (programaInstalado(ficha.esCualquierOtra ? terminalDesconocida : ficha.programas.front())) return true;
   std::cout << "skipped: " << ficha.nombre << " is not installed here\n";
   return false;
 }
 
-Escritorio::Pantalla pantallaDe(FichaDeTerminal const& ficha) {
-  return ficha.identificador == "foot" ? Escritorio::Pantalla::wayland : Escritorio::Pantalla::x11;
+EscritorioDe::EscritorioDe(FichaDeTerminal const& ficha, std::string const& gestorDeVentanas)
+    : EscritorioDe{ficha, ficha.identificador == "foot" ? Pantalla::wayland : Pantalla::x11,
+                   gestorDeVentanas} {}
+
+EscritorioDe::EscritorioDe(FichaDeTerminal const& ficha, Pantalla pantalla,
+                           std::string const& gestorDeVentanas)
+    : Escritorio{pantalla, gestorDeVentanas} {
+  if (!ficha.esCualquierOtra) return;
+  auto const enlace = casa().carpeta("enlaces") + "/" + ficha.programas.front();
+  std::filesystem::create_symlink(programaInstalado(terminalDesconocida).value(), enlace);
+  if (pantalla == Pantalla::ninguna) variables["DISPLAY"] = ":65000";  // without a word urxvt tries ":0"
+  variables["PATH"] = casa().dentro("enlaces") + ":" + variables["PATH"];
 }
 
 std::string nombreDelTerminal(testing::TestParamInfo<FichaDeTerminal> const& caso) {

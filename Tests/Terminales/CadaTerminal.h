@@ -24,8 +24,14 @@ struct Proceso {
 /// Whether this machine has the terminal; says by name that it is skipped when it has not.
 [[nodiscard]] bool estaAqui(FichaDeTerminal const& ficha);
 
-/// The display that the terminal is tried on: foot speaks Wayland alone.
-[[nodiscard]] Escritorio::Pantalla pantallaDe(FichaDeTerminal const& ficha);
+/// A desktop that the terminal can be tried on: foot speaks Wayland alone; x-terminal-emulator leads to
+/// urxvt, which the table does not know.
+class EscritorioDe final : public Escritorio {
+ public:
+  explicit EscritorioDe(FichaDeTerminal const& ficha, std::string const& gestorDeVentanas = "openbox");
+  EscritorioDe(FichaDeTerminal const& ficha, Pantalla pantalla,
+               std::string const& gestorDeVentanas = "openbox");
+};
 
 /// The terminal's identifier as a part of a test's name.
 [[nodiscard]] std::string nombreDelTerminal(testing::TestParamInfo<FichaDeTerminal> const& caso);

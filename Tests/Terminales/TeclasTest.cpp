@@ -16,7 +16,7 @@ namespace {
 class Ventana {
  public:
   Ventana(FichaDeTerminal const& ficha, std::string const& shell)
-      : escritorio{pantallaDe(ficha)}, terminal_{ficha.identificador} {
+      : escritorio{ficha}, terminal_{ficha.identificador} {
     escritorio.variables["SHELL"] = shell;
     auto const& casa = escritorio.casa();
     std::string const ajustes = "PATH=\"$HOME/propios:$PATH\"\nPS1='LISTO> '\n";
@@ -69,7 +69,7 @@ class Ventana {
     });
   }
 
-  Escritorio escritorio;
+  EscritorioDe escritorio;
   Teclado teclado{escritorio};
 
  private:
