@@ -3,6 +3,7 @@
 
 arbol.py PROGRAM              one line a node, indented by its depth: role "name" (description) [states]
 arbol.py PROGRAM pulsa NAME   presses what has that name
+arbol.py PROGRAM oye          from now on one line a node that it is told to read: role "name"
 """
 import sys
 
@@ -52,7 +53,20 @@ def pulsa(nodo, nombre):
     return any(pulsa(hijo, nombre) for hijo in hijos if hijo is not None)
 
 
-if sys.argv[2:3] == ["pulsa"]:
+def oye():
+    def leido(aviso):
+        if aviso.detail1:
+            print(f'{aviso.source.get_role_name()} "{aviso.source.get_name()}"', flush=True)
+
+    oyente = Atspi.EventListener.new(leido)
+    oyente.register("object:state-changed:focused")
+    print("listening", flush=True)
+    Atspi.event_main()
+
+
+if sys.argv[2:3] == ["oye"]:
+    oye()
+elif sys.argv[2:3] == ["pulsa"]:
     pulsa(programa(), sys.argv[3]) or sys.exit(f"nothing named {sys.argv[3]} can be pressed")
 else:
     cuenta(programa(), 0)

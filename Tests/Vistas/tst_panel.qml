@@ -25,6 +25,8 @@ Item {
         property int filaPedida: -1
         signal cambio
         function escribirConsulta(texto) { consulta = texto; cambio() }
+        property var leidas: []
+        function leer(que) { leidas.push(que.titulo ?? "campo") }
         function clicEnFila(fila) { filaPedida = fila }
         function clicEnAjustes() { ajustesPedidos++ }
     }
@@ -81,6 +83,25 @@ Item {
             panel.seleccion = 5000
             tryVerify(() => lista().itemAtIndex(5000) !== null)
             verify(lista().contentItem.children.length < 40, lista().contentItem.children.length)
+        }
+
+        function test_quienRecorreLasFilasLasOyeYQuienEscribeVuelveAlCampo() {
+            llenar(5)
+            panel.seleccion = 0
+            tryVerify(() => lista().itemAtIndex(2) !== null)
+            wait(0)
+            panel.leidas = []
+            panel.seleccion = 1
+            tryVerify(() => panel.leidas.length === 1)
+            panel.seleccion = 2
+            tryVerify(() => panel.leidas.length === 2)
+            panel.escribirConsulta("x")
+            panel.seleccion = 0
+            tryVerify(() => panel.leidas.length === 3)
+            compare(panel.leidas, ["Sesión 1", "Sesión 2", "campo"])
+            panel.seleccion = 1
+            tryVerify(() => panel.leidas.length === 4)
+            compare(panel.leidas[3], "Sesión 1")
         }
 
         function test_sinAvisosLaBandaNoOcupaSitio() {

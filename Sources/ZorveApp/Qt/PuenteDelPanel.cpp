@@ -1,5 +1,6 @@
 #include "ZorveApp/Qt/PuenteDelPanel.h"
 
+#include <QAccessible>
 #include <utility>
 
 #include "ZorveApp/Qt/Conversiones.h"
@@ -103,6 +104,12 @@ void PuenteDelPanel::clicEnFila(int posicion) {
 }
 
 void PuenteDelPanel::clicEnAjustes() { panel_.clicEnAjustes(); }
+
+void PuenteDelPanel::leer(QQuickItem* que) const {
+  if (!que || !QAccessible::isActive()) return;
+  QAccessibleEvent lectura{que, QAccessible::Focus};
+  QAccessible::updateAccessibility(&lectura);
+}
 
 void PuenteDelPanel::escribirAvisoPropio(QString texto) {
   avisoPropio_ = std::move(texto);

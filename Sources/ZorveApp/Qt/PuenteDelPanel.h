@@ -2,6 +2,7 @@
 
 #include <QAbstractListModel>
 #include <QObject>
+#include <QQuickItem>
 #include <QString>
 #include <QTimer>
 #include <QVariantList>
@@ -54,6 +55,8 @@ class PuenteDelPanel final : public QObject {
   Q_INVOKABLE void escribirConsulta(QString const& texto);
   Q_INVOKABLE void clicEnFila(int posicion);
   Q_INVOKABLE void clicEnAjustes();
+  /// Has a screen reader, if there is one, read `que`, which may be null; the keyboard stays where it is.
+  Q_INVOKABLE void leer(QQuickItem* que) const;
 
   /// A line of this desktop's own at the end of the band; an empty text takes it away.
   void escribirAvisoPropio(QString texto);

@@ -26,12 +26,29 @@ Item {
         currentIndex: -1
         highlightFollowsCurrentItem: false
         readonly property int seleccion: panel.seleccion
-        onSeleccionChanged: ponerALaVista()
+        onSeleccionChanged: {
+            ponerALaVista()
+            Qt.callLater(leer)
+        }
         onCountChanged: Qt.callLater(ponerALaVista)
         onHeightChanged: ponerALaVista()
 
         function ponerALaVista() {
             if (seleccion >= 0 && seleccion < count) positionViewAtIndex(seleccion, ListView.Contain)
+        }
+
+        // Going from row to row has a screen reader read each; typing has it back in the field.
+        readonly property string consulta: panel.consulta
+        onConsultaChanged: Qt.callLater(leer)
+        property string consultaLeida: consulta
+        property int filaLeida: -1
+        function leer() {
+            const escrita = consulta !== consultaLeida
+            const otraFila = filaLeida >= 0 && seleccion >= 0 && seleccion !== filaLeida
+            consultaLeida = consulta
+            filaLeida = seleccion
+            if (escrita) panel.leer(Window.activeFocusItem)
+            else if (otraFila) panel.leer(itemAtIndex(seleccion))
         }
 
         delegate: FilaDeSesion {
