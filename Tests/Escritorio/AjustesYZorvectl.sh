@@ -37,6 +37,13 @@ abre_ajustes
 espera dice 'page tab "Terminal" [focusable selected selectable]'
 espera dice 'radio button "xterm" [focusable checked]'
 espera dice 'radio button "kitty" [focusable]'
+# Minimised, it comes back.
+xdotool windowminimize "$primera"
+espera no ajustes
+muestra
+xdotool key ctrl+comma
+espera ajustes
+espera panel_o_ajustes_con_teclado
 xdotool key ctrl+shift+w
 sleep 0.2
 ajustes >/dev/null || fallo "Control+Shift+W closed the window"

@@ -1,5 +1,6 @@
 #include "ZorveApp/Qt/VentanaDeAjustes.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QQmlContext>
@@ -53,6 +54,7 @@ void VentanaDeAjustes::construir() {
   rootContext()->setContextProperty(QStringLiteral("ajustes"), &puente_);
   setSource(QUrl{QStringLiteral("qrc:/Zorve/Vistas/Ajustes.qml")});
   ponerClase(*this);
+  if (auto* const pantalla = QGuiApplication::screenAt(QCursor::pos())) setScreen(pantalla);
   auto const libre = screen()->availableGeometry();
   setPosition(libre.center() - QPoint{width() / 2, height() / 2});
 }

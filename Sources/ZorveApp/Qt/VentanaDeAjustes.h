@@ -20,7 +20,8 @@ class VentanaDeAjustes final : public QQuickView {
 
   /// Colours and size for what the person asks of every window.
   void vestir(GustosDePantalla const& gustos);
-  /// Loads, and brings the window to the front with the keyboard; the first time in the middle of the screen.
+  /// Loads, and brings the window to the front with the keyboard; the first time in the middle of the
+  /// screen with the pointer.
   void mostrar();
 
  protected:
