@@ -56,6 +56,10 @@ QPoint junto(QSize tamano, QRect const& icono, QRect const& libre, Borde borde) 
 
 }  // namespace
 
+QSize tamanoQueCabe(QSize tamano, QRect const& libre) {
+  return tamano.boundedTo(libre.size() - QSize{2 * holgura, 2 * holgura}).expandedTo({1, 1});
+}
+
 QPoint colocar(QSize tamano, Ancla const& ancla, QRect const& pantalla, QRect const& libre) {
   auto const centro = ancla.icono.center();
   auto const icono = conCuerpo(ancla, libre.contains(centro));

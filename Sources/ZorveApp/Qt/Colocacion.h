@@ -14,6 +14,9 @@ struct Ancla {
   bool soloPunto = false;
 };
 
+/// `tamano`, or as much of it as `libre` has room for.
+[[nodiscard]] QSize tamanoQueCabe(QSize tamano, QRect const& libre);
+
 /// Where a panel of `tamano` stands: beside the bar that holds the anchor, centred on it, never outside
 /// `libre`, the part of `pantalla` that no bar takes. All in one coordinate system.
 [[nodiscard]] QPoint colocar(QSize tamano, Ancla const& ancla, QRect const& pantalla, QRect const& libre);

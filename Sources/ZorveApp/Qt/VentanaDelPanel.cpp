@@ -61,7 +61,10 @@ void VentanaDelPanel::exigirOpaco(bool si) {
   vestir();
 }
 
-void VentanaDelPanel::escribirEscala(double escala) { fijarTamano(*this, tamanoDelPanel * escala); }
+void VentanaDelPanel::escribirEscala(double escala) {
+  tamano_ = tamanoDelPanel * escala;
+  fijarTamano(*this, tamano_);
+}
 
 void VentanaDelPanel::vestir() {
   if (!rootObject()) return;
@@ -74,6 +77,7 @@ void VentanaDelPanel::colocarEn(std::optional<Ancla> const& ancla) {
   auto& pantalla = pantallaDe(ancla ? ancla->icono.center() : QCursor::pos());
   auto const libre = escritorio_.areaLibre(pantalla);
   setScreen(&pantalla);
+  fijarTamano(*this, tamanoQueCabe(tamano_, libre));
   setPosition(ancla ? colocar(size(), *ancla, pantalla.geometry(), libre) : colocarSinAncla(size(), libre));
 }
 

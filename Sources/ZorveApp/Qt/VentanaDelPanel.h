@@ -29,7 +29,7 @@ class VentanaDelPanel final : public QQuickView {
   [[nodiscard]] bool recienCerrada() const;
   /// Square corners and solid glass even where windows can be translucent.
   void exigirOpaco(bool si);
-  /// How much larger than usual it is.
+  /// How much larger than usual it is. A screen without room for it gets a smaller one all the same.
   void escribirEscala(double escala);
 
  Q_SIGNALS:
@@ -47,6 +47,7 @@ class VentanaDelPanel final : public QQuickView {
 
   Escritorio& escritorio_;
   std::function<bool(Pulsacion const&)> alPulsar_;
+  QSize tamano_;
   QRect zonaDelIcono_;
   qint64 cerradaPorFuera_ = -1;
   bool exigeOpaco_ = false;

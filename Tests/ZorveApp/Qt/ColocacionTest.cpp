@@ -65,6 +65,15 @@ TEST(Colocacion, sinAnclaQuedaCentradoYEnLaParteDeArriba) {
   EXPECT_LT(marco.center().y(), pantalla.center().y());
 }
 
+TEST(Colocacion, enUnaPantallaBajaElPanelEsMasBajo) {
+  EXPECT_EQ(tamanoQueCabe({440, 560}, {0, 0, 910, 486}), (QSize{440, 474}));
+  EXPECT_EQ(tamanoQueCabe({440, 560}, {0, 0, 400, 900}), (QSize{388, 560}));
+}
+
+TEST(Colocacion, dondeCabeElPanelEsElDeSiempre) {
+  EXPECT_EQ(tamanoQueCabe({440, 560}, {0, 0, 452, 572}), (QSize{440, 560}));
+}
+
 TEST(Barras, unPuntalDaElRectanguloDeSuBorde) {
   auto const barras = barrasDePuntal({0, 0, 26, 0, 0, 0, 0, 0, 0, 1279, 0, 0}, {2560, 800});
   EXPECT_EQ(barras, (std::vector{QRect{0, 0, 1280, 26}}));
