@@ -58,7 +58,7 @@ class Bus {
   [[nodiscard]] bool abierto() const;
   /// Waits for the answer no longer than `plazo`.
   [[nodiscard]] Respuesta llamar(Metodo const& metodo, std::span<Argumento const> argumentos = {},
-                                 std::chrono::milliseconds plazo = std::chrono::milliseconds{1500}) const;
+                                 std::chrono::milliseconds plazo = std::chrono::milliseconds{2500}) const;
   /// This connection's own name on the bus.
   [[nodiscard]] std::string nombre() const;
   /// Waits until somebody calls that method of ours, and gives the call's first text.

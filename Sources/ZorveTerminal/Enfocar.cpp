@@ -29,6 +29,12 @@ std::vector<Ventana> ventanasDeLaSesion(Ventanas const& ventanas, SesionEnTty co
   return suyas;
 }
 
+/// The X window that the terminal names, now or when the session began; 0 for none.
+std::uint64_t ventanaEscrita(SesionEnTty const& sesion, Pestanas const* pestanas) {
+  auto const dicha = pestanas != nullptr ? pestanas->ventana() : 0;
+  return dicha != 0 ? dicha : enteroEn<std::uint64_t>(sesion.variable("WINDOWID")).value_or(0);
+}
+
 /// The session's window, with its tab shown where the terminal can be made to.
 std::expected<std::uint64_t, std::string> mostrar(FichaDeTerminal const& ficha, SesionEnTty const& sesion,
                                                   Ventanas const& ventanas) {
@@ -39,8 +45,7 @@ std::expected<std::uint64_t, std::string> mostrar(FichaDeTerminal const& ficha, 
   auto const mostrada = pestanas ? pestanas->mostrar() : Mostrada::noSabe;
   if (mostrada == Mostrada::calla) return std::unexpected{fraseNoContesta(ficha, sesion.tty)};
 
-  auto propia = pestanas ? pestanas->ventana() : 0;
-  if (propia == 0) propia = enteroEn<std::uint64_t>(sesion.variable("WINDOWID")).value_or(0);
+  auto const propia = ventanas.sonDeX() ? ventanaEscrita(sesion, pestanas.get()) : 0;
   auto const ventana = ventanaDe(suyas, sesion.ascendencia, propia);
   auto const recorrer = mostrada == Mostrada::noSabe && pestanas && pestanas->recorre() &&
                         sesionesDe(suyas.front().pid).size() != 1;

@@ -18,7 +18,7 @@ enum class Mostrada : std::uint8_t {
   calla,
 };
 
-/// What a terminal offers to bring a session's tab to the front of its window. Every call ends within 2 s.
+/// What a terminal offers to bring a session's tab to the front of its window. Every call ends within 3 s.
 class Pestanas {
  public:
   Pestanas() = default;

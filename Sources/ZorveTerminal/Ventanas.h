@@ -34,6 +34,8 @@ class Ventanas {
 
   /// Whether the desktop answers; without it there are no windows.
   [[nodiscard]] virtual bool abierta() const = 0;
+  /// Whether identifiers are those of the X server, which WINDOWID names.
+  [[nodiscard]] virtual bool sonDeX() const { return false; }
   /// Every window that a person could switch to.
   [[nodiscard]] virtual std::vector<Ventana> todas() const = 0;
   /// Brings the window to the front, its desktop too, and waits until it is reported to have the keyboard.

@@ -75,6 +75,12 @@ struct VentanasX::Conexion {
     return todos.empty() ? std::nullopt : std::optional{todos.front()};
   }
 
+  /// A dialog stands before a window of its own (ICCCM 4.1.2.6) and shows no session.
+  [[nodiscard]] bool esDeOtra(xcb_window_t ventana) const {
+    auto const cual = numero(ventana, "WM_TRANSIENT_FOR").value_or(XCB_WINDOW_NONE);
+    return cual != XCB_WINDOW_NONE && cual != raiz;
+  }
+
   void pedir(xcb_window_t ventana, std::string_view nombre, std::uint32_t primero) const {
     xcb_client_message_event_t mensaje{};
     mensaje.response_type = XCB_CLIENT_MESSAGE;
@@ -111,6 +117,7 @@ std::vector<Ventana> VentanasX::todas() const {
   std::vector<Ventana> ventanas;
   auto const activa = conexion_->numero(conexion_->raiz, "_NET_ACTIVE_WINDOW");
   for (auto const ventana : conexion_->numeros(conexion_->raiz, "_NET_CLIENT_LIST")) {
+    if (conexion_->esDeOtra(ventana)) continue;
     auto const pid = conexion_->numero(ventana, "_NET_WM_PID").value_or(0);
     auto titulo = conexion_->texto(ventana, "_NET_WM_NAME");
     if (titulo.empty()) titulo = conexion_->texto(ventana, "WM_NAME");

@@ -6,7 +6,8 @@
 
 namespace zorve {
 
-/// The windows of the X display that $DISPLAY names, by what its window manager publishes (EWMH).
+/// The windows of the X display that $DISPLAY names, by what its window manager publishes (EWMH). Dialogs
+/// are none.
 class VentanasX final : public Ventanas {
  public:
   VentanasX();
@@ -15,6 +16,7 @@ class VentanasX final : public Ventanas {
   ~VentanasX() override;
 
   [[nodiscard]] bool abierta() const override;
+  [[nodiscard]] bool sonDeX() const override { return true; }
   [[nodiscard]] std::vector<Ventana> todas() const override;
   [[nodiscard]] bool activar(std::uint64_t id, std::chrono::milliseconds plazo) const override;
 

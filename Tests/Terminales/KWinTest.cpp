@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <csignal>
 #include <string>
 
 #include "Terminales/Sesiones.h"
@@ -64,6 +66,24 @@ TEST_P(DosVentanasDeKWinLargo, elTecladoPasaALaSesionEnfocadaTambienEnOtroEscrit
                          "org.kde.KWin.setCurrentDesktop", "int32:2"}));
   ASSERT_TRUE(esperarA([&] { return dos.teclasDe(1).ends_with(seVa); }));
   elTecladoVaA(0);
+}
+
+TEST(KWinLargo, unCompositorDetenidoSeDiceEnUnaFraseEnDiezSegundos) {
+  auto const& konsole = *fichaDeLinux("org.kde.konsole");
+  if (!conLosLargos() || !programaInstalado("kwin_wayland") || !estaAqui(konsole)) return;
+  Sesiones una{konsole, Escritorio::Pantalla::kwin};
+  ASSERT_TRUE(una.abrirVentana());
+  auto const pid = una.escritorio.correr(
+      {"dbus-send", "--session", "--print-reply=literal", "--dest=org.freedesktop.DBus",
+       "/org/freedesktop/DBus", "org.freedesktop.DBus.GetConnectionUnixProcessID", "string:org.kde.KWin"});
+  auto const kwin = std::stoi(pid.salida.substr(pid.salida.find("uint32 ") + 7));
+  ASSERT_EQ(::kill(kwin, SIGSTOP), 0);
+  auto const empieza = std::chrono::steady_clock::now();
+  auto const corrida = una.enfocar(0);
+  EXPECT_LT(std::chrono::steady_clock::now() - empieza, std::chrono::seconds{10});
+  EXPECT_EQ(::kill(kwin, SIGCONT), 0);
+  EXPECT_EQ(corrida.codigo, 1);
+  EXPECT_EQ(corrida.error, "zorve-terminal: the desktop did not answer in time\n");
 }
 
 }  // namespace

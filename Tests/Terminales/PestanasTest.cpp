@@ -166,5 +166,58 @@ TEST_P(TerminalDetenida, seDiceEnUnaFraseYDespuesSeEnfocaComoAntes) {
   s.laTeclaLlegaSoloA(0, "b");
 }
 
+/// Konsole with two windows of one process: the first session's own, and one that its second tab was moved
+/// to.
+TEST(KonsoleDeVariasVentanas, unaPestanaQueCambioDeVentanaSeEncuentraEnLaNueva) {
+  auto const& ficha = *fichaDeLinux(konsole.identificador);
+  if (!estaAqui(ficha)) return;
+  Sesiones s{ficha, Escritorio::Pantalla::x11};
+  ASSERT_TRUE(s.abrirVentana() && pestanaDeKonsole(s) && s.esperarOtra());
+  ASSERT_TRUE(
+      s.hacer({"dbus-send", "--session", "--print-reply", "--dest=" + s.variableDe(0, "KONSOLE_DBUS_SERVICE"),
+               "/konsole/MainWindow_1", "org.kde.KMainWindow.activateAction", "string:detach-tab"}));
+  ASSERT_TRUE(esperarA([&] { return s.ventanas().size() == 2; }));
+  ASSERT_EQ(s.anfitrionDe(0), s.anfitrionDe(1));
+  ASSERT_EQ(s.variableDe(0, "WINDOWID"), s.variableDe(1, "WINDOWID"));
+  s.laTeclaLlegaSoloA(0, "a");
+  s.laTeclaLlegaSoloA(1, "b");
+  s.laTeclaLlegaSoloA(0, "c");
+}
+
+/// GNOME Terminal with its search provider switched on, which names sessions.
+TEST(GnomeTerminalConBuscador, muestraLaPestanaQueSeLePide) {
+  auto const& ficha = *fichaDeLinux(gnomeTerminal.identificador);
+  if (!estaAqui(ficha)) return;
+  Sesiones s{ficha, Escritorio::Pantalla::x11};
+  s.escritorio.casa().escribir(".config/glib-2.0/settings/keyfile",
+                               "[org/gnome/terminal/legacy]\nshell-integration-enabled=true\n");
+  ASSERT_TRUE(s.hacer({"dbus-update-activation-environment", "GSETTINGS_BACKEND=keyfile"}));
+  ASSERT_TRUE(s.abrirVentana() && pestanaDeGnomeTerminal(s) && s.esperarOtra() && s.abrirVentana());
+  auto const ofrece =
+      s.escritorio.correr({"dbus-send", "--session", "--print-reply", "--dest=org.gnome.Terminal",
+                           "/org/gnome/Terminal/SearchProvider", "org.freedesktop.DBus.Properties.GetAll",
+                           "string:org.gnome.Shell.SearchProvider2"});
+  ASSERT_EQ(ofrece.codigo, 0) << ofrece.error;
+  s.laTeclaLlegaSoloA(0, "a");
+  s.laTeclaLlegaSoloA(2, "b");
+  s.laTeclaLlegaSoloA(1, "c");
+  ASSERT_TRUE(s.hacer({"xdotool", "getactivewindow", "windowminimize"}));
+  s.laTeclaLlegaSoloA(0, "d");
+}
+
+/// An agent at work writes titles of its own all the time.
+TEST(TituloQueCambia, laMarcaSeVeAunqueLaSesionEscribaTitulosSinCesar) {
+  auto const& ficha = *fichaDeLinux(gnomeTerminal.identificador);
+  if (!estaAqui(ficha)) return;
+  Sesiones s{ficha, Escritorio::Pantalla::x11};
+  s.escritorio.programa("titulos",
+                        "while sleep 0.1; do printf '\\033]0;trabajando\\007'; done &\nexec claude\n");
+  ASSERT_TRUE(s.abrirVentana("titulos") && s.abrirVentana("titulos"));
+  s.laTeclaLlegaSoloA(0, "a");
+  s.laTeclaLlegaSoloA(1, "b");
+  ASSERT_TRUE(s.hacer({"xdotool", "getactivewindow", "windowminimize"}));
+  s.laTeclaLlegaSoloA(1, "c");
+}
+
 }  // namespace
 }  // namespace zorve::pruebas

@@ -24,10 +24,9 @@ std::vector<FichaDeTerminal> enfocables(SesionGrafica sesion) {
   return todas;
 }
 
-bool Sesiones::abrirVentana() {
+bool Sesiones::abrirVentana(std::string const& orden) {
   auto const antes = ventanas().size();
-  auto const corrida =
-      escritorio.ayudante({"open", ficha_.identificador, escritorio.casa().ruta(), "claude"});
+  auto const corrida = escritorio.ayudante({"open", ficha_.identificador, escritorio.casa().ruta(), orden});
   EXPECT_EQ(corrida.codigo, 0) << corrida.error;
   // A shell may run before its window is shown, which then takes the keyboard.
   return esperarOtra() && (!sabeLasVentanas() || esperarA([&] { return ventanas().size() > antes; }));

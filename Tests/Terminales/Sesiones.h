@@ -21,8 +21,8 @@ class Sesiones {
   Sesiones(FichaDeTerminal ficha, Escritorio::Pantalla pantalla, std::string const& gestor = "openbox")
       : escritorio{pantalla, gestor}, ficha_{std::move(ficha)} {}
 
-  /// Opens one more window with the helper. False when no session appeared in it.
-  [[nodiscard]] bool abrirVentana();
+  /// Opens one more window with the helper, for that command. False when no session appeared in it.
+  [[nodiscard]] bool abrirVentana(std::string const& orden = "claude");
   /// Waits for one more session, opened some other way. False when none appears.
   [[nodiscard]] bool esperarOtra();
   [[nodiscard]] dobles::Corrida enfocar(std::size_t cual) const;
