@@ -60,6 +60,9 @@ class Archivos {
 /// Whether something is at `ruta`, links followed. What cannot be looked at (permissions) counts as there.
 [[nodiscard]] bool existe(Archivos& archivos, std::string const& ruta);
 
+/// What follows the last slash of `ruta`: all of it where there is none.
+[[nodiscard]] std::string_view nombreBase(std::string_view ruta);
+
 /// `carpeta` and `nombre` with one slash between them.
 [[nodiscard]] std::string unirRuta(std::string const& carpeta, std::string const& nombre);
 

@@ -3,18 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "ZorveCore/Archivos.h"
 #include "ZorveCore/Escape.h"
 
 namespace zorve {
-
-namespace {
-
-std::string_view nombreBase(std::string_view ruta) {
-  auto const barra = ruta.rfind('/');
-  return barra == std::string_view::npos ? ruta : ruta.substr(barra + 1);
-}
-
-}  // namespace
 
 TerminalDeLinux::TerminalDeLinux(FichaDeTerminal const& ficha, AplicacionesInstaladas const& aplicaciones,
                                  std::string rutaDelAyudante, SesionGrafica sesion)

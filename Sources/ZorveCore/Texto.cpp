@@ -105,6 +105,19 @@ std::vector<std::string_view> palabras(std::string_view texto) {
   return piezas;
 }
 
+std::string_view recortarAscii(std::string_view texto) {
+  constexpr std::string_view blancos = " \t\r\n";
+  auto const primera = texto.find_first_not_of(blancos);
+  if (primera == std::string_view::npos) return {};
+  return texto.substr(primera, texto.find_last_not_of(blancos) - primera + 1);
+}
+
+std::string_view sacarLinea(std::string_view& resto) {
+  auto const linea = resto.substr(0, resto.find('\n'));
+  resto.remove_prefix(std::min(linea.size() + 1, resto.size()));
+  return linea;
+}
+
 std::string_view primerosCaracteres(std::string_view texto, std::size_t cuantos) {
   if (texto.size() <= cuantos) return texto;
   std::size_t posicion = 0;

@@ -20,6 +20,13 @@ namespace zorve {
 /// The pieces between runs of Unicode white space; empty pieces dropped.
 [[nodiscard]] std::vector<std::string_view> palabras(std::string_view texto);
 
+/// `texto` without blanks, tabs and line breaks at both ends, those of ASCII alone: as programs and settings
+/// files mean them.
+[[nodiscard]] std::string_view recortarAscii(std::string_view texto);
+
+/// The first line without its line feed; `resto` keeps what follows it.
+[[nodiscard]] std::string_view sacarLinea(std::string_view& resto);
+
 /// The first `cuantos` user-perceived characters (extended grapheme clusters, UAX #29). Whole if there are
 /// fewer.
 [[nodiscard]] std::string_view primerosCaracteres(std::string_view texto, std::size_t cuantos);

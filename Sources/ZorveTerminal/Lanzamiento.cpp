@@ -14,6 +14,8 @@
 #include <cstring>
 #include <system_error>
 
+#include "ZorveCore/Archivos.h"
+#include "ZorveCore/Texto.h"
 #include "ZorvePlatform/Posix/Descriptor.h"
 #include "ZorvePlatform/Posix/ProcesoHijo.h"
 
@@ -24,8 +26,6 @@ namespace {
 using Reloj = std::chrono::steady_clock;
 
 constexpr std::size_t maximoDePalabras = 4096;
-
-std::string nombreBase(std::string const& ruta) { return ruta.substr(ruta.rfind('/') + 1); }
 
 /// A directory where the program can start.
 std::string dondeEmpieza(std::string const& directorio) {
@@ -45,13 +45,6 @@ int empezar(Lanzamiento const& lanzamiento, int salida, pid_t& pid) {
                        punteros(palabras).data(), punteros(variables).data());
 }
 
-std::string_view sinBlancos(std::string_view texto) {
-  constexpr std::string_view blancos = " \t\r\n";
-  auto const primera = texto.find_first_not_of(blancos);
-  if (primera == std::string_view::npos) return {};
-  return texto.substr(primera, texto.find_last_not_of(blancos) - primera + 1);
-}
-
 /// What a program tells of itself besides why it ended.
 bool esAcotacion(std::string_view linea) {
   constexpr std::array<std::string_view, 3> principios{"info:", "note:", "debug:"};
@@ -62,9 +55,7 @@ bool esAcotacion(std::string_view linea) {
 std::string enUnaLinea(std::string_view texto, bool todas) {
   std::string linea;
   while (!texto.empty()) {
-    auto const largo = std::min(texto.find('\n'), texto.size());
-    auto const trozo = sinBlancos(texto.substr(0, largo));
-    texto.remove_prefix(std::min(largo + 1, texto.size()));
+    auto const trozo = recortarAscii(sacarLinea(texto));
     if (trozo.empty() || (!todas && esAcotacion(trozo))) continue;
     if (!linea.empty()) linea += "; ";
     linea += trozo;
@@ -122,7 +113,7 @@ bool esperarLaSenal(int proceso, int vigia, Reloj::time_point limite) {
 
 std::expected<void, FinTemprano> lanzar(Lanzamiento const& lanzamiento, std::chrono::milliseconds plazo) {
   auto const limite = Reloj::now() + plazo;
-  auto const programa = nombreBase(lanzamiento.ejecutable);
+  std::string const programa{nombreBase(lanzamiento.ejecutable)};
   Descriptor const salida{::memfd_create("zorve-terminal", MFD_CLOEXEC)};
   if (!salida) return noEmpieza(programa, errno);
   Descriptor const vigia{::inotify_init1(IN_CLOEXEC | IN_NONBLOCK)};

@@ -59,9 +59,7 @@ template <class Leer>
 auto leerLineas(std::string_view texto, Leer const& leer) {
   std::vector<typename decltype(leer(texto))::value_type> leidas;
   while (!texto.empty()) {
-    auto const fin = std::min(texto.find('\n'), texto.size());
-    if (auto una = leer(texto.substr(0, fin))) leidas.push_back(*std::move(una));
-    texto.remove_prefix(std::min(fin + 1, texto.size()));
+    if (auto una = leer(sacarLinea(texto))) leidas.push_back(*std::move(una));
   }
   return leidas;
 }

@@ -29,6 +29,21 @@ TEST(Texto, palabrasCortaEnTodoBlancoYDejaCaerLasVacias) {
   EXPECT_EQ(palabras("\xA0x"), (Piezas{"\xA0x"}));
 }
 
+TEST(Texto, recortarAsciiDejaLosDemasBlancos) {
+  EXPECT_EQ(recortarAscii(" \t\r\na b\n\r\t "), "a b");
+  EXPECT_EQ(recortarAscii("\u00A0a\v"), "\u00A0a\v");
+  EXPECT_EQ(recortarAscii(" \n"), "");
+}
+
+TEST(Texto, sacarLineaDejaLoQueSigueAlSalto) {
+  std::string_view resto = "a\r\n\nb";
+  EXPECT_EQ(sacarLinea(resto), "a\r");
+  EXPECT_EQ(sacarLinea(resto), "");
+  EXPECT_EQ(sacarLinea(resto), "b");
+  EXPECT_EQ(resto, "");
+  EXPECT_EQ(sacarLinea(resto), "");
+}
+
 TEST(Texto, primerosCaracteresCuentaLoQueLaPersonaVe) {
   EXPECT_EQ(primerosCaracteres("abc", 2), "ab");
   EXPECT_EQ(primerosCaracteres("abc", 3), "abc");

@@ -2,15 +2,11 @@
 
 #include <algorithm>
 
+#include "ZorveCore/Texto.h"
+
 namespace zorve {
 
 namespace {
-
-std::string_view sinBlancos(std::string_view texto) {
-  auto const inicio = texto.find_first_not_of(" \t\r");
-  if (inicio == std::string_view::npos) return {};
-  return texto.substr(inicio, texto.find_last_not_of(" \t\r") - inicio + 1);
-}
 
 /// A name with what stands in brackets behind it: "General[$i]", "TerminalApplication[$ei]".
 struct Nombre {
@@ -22,7 +18,7 @@ struct Nombre {
 };
 
 Nombre nombreDe(std::string_view texto) {
-  Nombre nombre{.nombre = sinBlancos(texto.substr(0, texto.find('[')))};
+  Nombre nombre{.nombre = recortarAscii(texto.substr(0, texto.find('[')))};
   for (auto i = texto.find('['); i != std::string_view::npos; i = texto.find('[', i + 1)) {
     auto const dentro = texto.substr(i + 1, texto.find(']', i) - i - 1);
     if (dentro.starts_with('$')) {
@@ -42,11 +38,7 @@ class Lectura {
     if (fijo_) return;
     enElGrupo_ = false;
     bool fija = false;
-    while (!texto.empty()) {
-      auto const largo = std::min(texto.find('\n'), texto.size());
-      fija = linea(sinBlancos(texto.substr(0, largo))) || fija;
-      texto.remove_prefix(std::min(largo + 1, texto.size()));
-    }
+    while (!texto.empty()) fija = linea(recortarAscii(sacarLinea(texto))) || fija;
     fijo_ = fija;
   }
 
@@ -62,7 +54,7 @@ class Lectura {
     if (nombre.nombre != clave_ || nombre.deUnIdioma) return false;
     valor_.reset();
     if (!nombre.tiene('d') && igual < texto.size()) {
-      if (auto const valor = sinBlancos(texto.substr(igual + 1)); !valor.empty()) valor_ = valor;
+      if (auto const valor = recortarAscii(texto.substr(igual + 1)); !valor.empty()) valor_ = valor;
     }
     return nombre.tiene('i');
   }
@@ -70,7 +62,7 @@ class Lectura {
   bool cabecera(std::string_view texto) {
     if (texto == "[$i]") return true;
     auto const cierre = std::min(texto.find(']'), texto.size());
-    auto const resto = sinBlancos(texto.substr(std::min(cierre + 1, texto.size())));
+    auto const resto = recortarAscii(texto.substr(std::min(cierre + 1, texto.size())));
     bool const fija = resto == "[$i]";
     enElGrupo_ = texto.substr(1, cierre - 1) == grupo_ && (resto.empty() || fija);
     return enElGrupo_ && fija;

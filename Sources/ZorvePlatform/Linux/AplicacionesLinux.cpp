@@ -62,8 +62,7 @@ std::string programaDe(FichaDeTerminal const& ficha, EntornoLinux const& entorno
     if (auto ruta = ejecutableEn(entorno, nombre); !ruta.empty()) return ruta;
   }
   auto ruta = programaDeLaEntrada(entorno, ficha.entradaDeEscritorio);
-  bool const suya =
-      std::ranges::find(ficha.programas, ruta.substr(ruta.rfind('/') + 1)) != ficha.programas.end();
+  bool const suya = std::ranges::find(ficha.programas, nombreBase(ruta)) != ficha.programas.end();
   return suya ? ruta : std::string{};
 }
 

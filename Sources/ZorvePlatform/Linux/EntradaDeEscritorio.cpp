@@ -1,31 +1,22 @@
 #include "ZorvePlatform/Linux/EntradaDeEscritorio.h"
 
-#include <algorithm>
 #include <map>
+
+#include "ZorveCore/Texto.h"
 
 namespace zorve {
 
 namespace {
 
-constexpr std::string_view blancos = " \t\r";
-
-std::string_view sinBlancos(std::string_view texto) {
-  auto const inicio = texto.find_first_not_of(blancos);
-  if (inicio == std::string_view::npos) return {};
-  return texto.substr(inicio, texto.find_last_not_of(blancos) - inicio + 1);
-}
-
 std::map<std::string_view, std::string_view> clavesDelGrupo(std::string_view texto) {
   std::map<std::string_view, std::string_view> claves;
   bool dentro = false;
   while (!texto.empty()) {
-    auto const largo = std::min(texto.find('\n'), texto.size());
-    auto const linea = sinBlancos(texto.substr(0, largo));
-    texto.remove_prefix(std::min(largo + 1, texto.size()));
+    auto const linea = recortarAscii(sacarLinea(texto));
     if (linea.starts_with('[')) dentro = linea == "[Desktop Entry]";
     auto const igual = linea.find('=');
     if (!dentro || linea.starts_with('#') || igual == std::string_view::npos) continue;
-    claves.try_emplace(sinBlancos(linea.substr(0, igual)), sinBlancos(linea.substr(igual + 1)));
+    claves.try_emplace(recortarAscii(linea.substr(0, igual)), recortarAscii(linea.substr(igual + 1)));
   }
   return claves;
 }

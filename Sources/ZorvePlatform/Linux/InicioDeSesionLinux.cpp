@@ -6,6 +6,7 @@
 #include <system_error>
 #include <utility>
 
+#include "ZorveCore/Texto.h"
 #include "ZorvePlatform/Posix/LeerArchivo.h"
 #include "ZorvePlatform/Posix/ReemplazarArchivo.h"
 
@@ -21,11 +22,8 @@ std::string contenido(std::string const& ejecutable) {
 }
 
 bool tieneLinea(std::string_view texto, std::string_view linea) {
-  std::size_t desde = 0;
-  while (desde < texto.size()) {
-    auto const fin = std::min(texto.find('\n', desde), texto.size());
-    if (texto.substr(desde, fin - desde) == linea) return true;
-    desde = fin + 1;
+  while (!texto.empty()) {
+    if (sacarLinea(texto) == linea) return true;
   }
   return false;
 }

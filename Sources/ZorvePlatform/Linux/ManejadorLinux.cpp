@@ -12,6 +12,7 @@
 #include "ZorveCore/CatalogoDeTerminales.h"
 #include "ZorveCore/FichaDeTerminal.h"
 #include "ZorveCore/TerminalDeLinux.h"
+#include "ZorveCore/Texto.h"
 #include "ZorvePlatform/Linux/AjusteDeKde.h"
 #include "ZorvePlatform/Linux/AplicacionesLinux.h"
 #include "ZorvePlatform/Linux/ProgramaAcotado.h"
@@ -37,19 +38,13 @@ std::string variable(char const* nombre) {
 }
 
 std::string_view nombreDelPrograma(std::string_view ruta) {
-  ruta.remove_prefix(ruta.rfind('/') + 1);
+  ruta = nombreBase(ruta);
   if (ruta.ends_with(envoltura)) ruta.remove_suffix(envoltura.size());
   return std::ranges::find(variantesDeXterm, ruta) == variantesDeXterm.end() ? ruta : "xterm";
 }
 
-std::string_view sinBlancos(std::string_view texto) {
-  auto const inicio = texto.find_first_not_of(" \t\r\n");
-  if (inicio == std::string_view::npos) return {};
-  return texto.substr(inicio, texto.find_last_not_of(" \t\r\n") - inicio + 1);
-}
-
 std::optional<std::string> terminalDeLaOrden(std::string_view orden) {
-  orden = sinBlancos(orden);
+  orden = recortarAscii(orden);
   return terminalDelPrograma(orden.substr(0, orden.find_first_of(" \t")));
 }
 
@@ -61,7 +56,7 @@ std::optional<std::string> correr(LugaresDelManejador const& lugares, std::strin
 
 std::optional<std::string> segunXdgTerminalExec(LugaresDelManejador const& lugares) {
   auto const salida = correr(lugares, "xdg-terminal-exec", {"--print-id"});
-  return salida ? terminalDeLaEntrada(sinBlancos(*salida)) : std::nullopt;
+  return salida ? terminalDeLaEntrada(recortarAscii(*salida)) : std::nullopt;
 }
 
 std::optional<std::string> segunKdeglobals(LugaresDelManejador const& lugares) {
@@ -89,7 +84,7 @@ std::string esquemaDe(std::string const& escritorio) {
 std::optional<std::string> segunGsettings(LugaresDelManejador const& lugares) {
   auto const salida = correr(lugares, "gsettings", {"get", esquemaDe(lugares.escritorio), "exec"});
   if (!salida) return std::nullopt;
-  auto valor = sinBlancos(*salida);
+  auto valor = recortarAscii(*salida);
   auto const comilla = valor.substr(0, 1);
   if (valor.size() < 2 || (comilla != "'" && comilla != "\"") || !valor.ends_with(comilla)) {
     return std::nullopt;
