@@ -19,9 +19,11 @@ setxkbmap -layout us -variant intl -option compose:menu
 export QT_IM_MODULE=compose
 zorve
 muestra
-xdotool key Multi_key c equal
+# As a person types: of keys that arrive all at once the toolkit delivers composed text before the letters that
+# precede it.
+xdotool key --delay 100 Multi_key c equal
 espera copiado_es 2
-xdotool key BackSpace c a f dead_acute e
+xdotool key --delay 100 BackSpace c a f dead_acute e
 espera copiado_es 1
 xdotool key ctrl+q
 espera terminado "$zorve_pid"
@@ -33,9 +35,9 @@ export QT_IM_MODULE=ibus
 zorve
 muestra
 # It begins with Latin letters: what it does not compose arrives as it is.
-xdotool type prec
+xdotool type --delay 100 prec
 espera copiado_es 2
-xdotool key BackSpace BackSpace BackSpace BackSpace shift+space
-xdotool type gksrmf
+xdotool key --delay 100 BackSpace BackSpace BackSpace BackSpace shift+space
+xdotool type --delay 100 gksrmf
 xdotool key space
 espera copiado_es 3
