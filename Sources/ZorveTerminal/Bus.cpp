@@ -3,10 +3,11 @@
 #include <dbus/dbus.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cstdlib>
 #include <string_view>
 #include <utility>
+
+#include "ZorveCore/Entero.h"
 
 namespace zorve {
 
@@ -129,6 +130,11 @@ void leer(DBusMessageIter donde, std::vector<DatoDeRespuesta>& datos) {
   }
 }
 
+bool esPara(Metodo const& metodo, DBusMessage* llamada) {
+  return dbus_message_is_method_call(llamada, metodo.interfaz.c_str(), metodo.nombre.c_str()) != 0 &&
+         dbus_message_has_path(llamada, metodo.objeto.c_str()) != 0;
+}
+
 bool valido(Metodo const& metodo) {
   return dbus_validate_bus_name(metodo.servicio.c_str(), nullptr) != 0 &&
          dbus_validate_path(metodo.objeto.c_str(), nullptr) != 0;
@@ -192,14 +198,13 @@ std::string Bus::nombre() const {
   return suyo != nullptr ? suyo : "";
 }
 
-std::optional<std::string> Bus::recibir(std::string const& interfaz, std::string const& metodo,
-                                        std::chrono::milliseconds plazo) const {
+std::optional<std::string> Bus::recibir(Metodo const& nuestro, std::chrono::milliseconds plazo) const {
   using Reloj = std::chrono::steady_clock;
   auto const limite = Reloj::now() + plazo;
   while (abierto()) {
     for (Mensaje mensaje{dbus_connection_pop_message(conexion_->bus)}; mensaje;
          mensaje.reset(dbus_connection_pop_message(conexion_->bus))) {
-      if (dbus_message_is_method_call(mensaje.get(), interfaz.c_str(), metodo.c_str()) == 0) continue;
+      if (!esPara(nuestro, mensaje.get())) continue;
       std::vector<DatoDeRespuesta> datos;
       DBusMessageIter donde;
       if (dbus_message_iter_init(mensaje.get(), &donde) != 0) leer(donde, datos);
@@ -238,10 +243,7 @@ std::vector<std::uint32_t> nodosNumerados(std::string_view introspeccion, std::s
        i = introspeccion.find(principio)) {
     introspeccion.remove_prefix(i + principio.size());
     auto const nombre = introspeccion.substr(0, introspeccion.find('"'));
-    auto const* const fin = std::to_address(nombre.end());
-    std::uint32_t numero = 0;
-    auto const [hasta, error] = std::from_chars(std::to_address(nombre.begin()), fin, numero);
-    if (error == std::errc{} && hasta == fin) numeros.push_back(numero);
+    if (auto const numero = enteroEn<std::uint32_t>(nombre)) numeros.push_back(*numero);
   }
   std::ranges::sort(numeros);
   return numeros;

@@ -61,8 +61,9 @@ class Bus {
                                  std::chrono::milliseconds plazo = std::chrono::milliseconds{2500}) const;
   /// This connection's own name on the bus.
   [[nodiscard]] std::string nombre() const;
-  /// Waits until somebody calls that method of ours, and gives the call's first text.
-  [[nodiscard]] std::optional<std::string> recibir(std::string const& interfaz, std::string const& metodo,
+  /// Waits until somebody calls that method of ours (its service is `nombre`), and gives the call's first
+  /// text. Calls of other methods and objects that come meanwhile are passed over.
+  [[nodiscard]] std::optional<std::string> recibir(Metodo const& nuestro,
                                                    std::chrono::milliseconds plazo) const;
   /// The process behind a name on the bus, or 0.
   [[nodiscard]] pid_t procesoDe(std::string const& servicio) const;

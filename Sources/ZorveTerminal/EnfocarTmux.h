@@ -10,7 +10,7 @@ namespace zorve {
 
 /// Brings the tmux pane on the device `tty` (with or without "/dev/") to the front: a client of its server
 /// shows session, window and pane, then the client's own window comes to the front, a tmux around it too.
-/// Without a client, a window of `elegida` (null: unknown) shows it. Fails with one sentence.
+/// Without a client, a window of `elegida` (null: nobody says which) shows it. Fails with one sentence.
 [[nodiscard]] std::expected<void, std::string> enfocarEnTmux(std::string const& tty,
                                                              FichaDeTerminal const* elegida,
                                                              std::span<std::string const> entorno);

@@ -17,7 +17,7 @@ namespace zorve {
 class MarcaDeTitulo {
  public:
   /// Puts the mark on the terminal device `tty` (with or without "/dev/"), which must be the pseudoterminal
-  /// of `lider` and both this user's own. Fails with one sentence, and nothing was written then.
+  /// of `lider` and both this user's own. Fails with one sentence; what was written by then is undone.
   [[nodiscard]] static std::expected<MarcaDeTitulo, std::string> poner(std::string const& tty,
                                                                        Proceso const& lider);
   MarcaDeTitulo(MarcaDeTitulo&& otra) noexcept;

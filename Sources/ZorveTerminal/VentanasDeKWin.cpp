@@ -102,9 +102,10 @@ bool VentanasDeKWin::activar(std::uint64_t id, std::chrono::milliseconds plazo) 
 }
 
 std::optional<std::string> VentanasDeKWin::correr(std::string const& guion) const {
+  Metodo const nuestro{bus_.nombre(), "/" + std::to_string(++preguntas_), interfaz, metodo};
   auto const texto = std::string{alPrincipio} + guion + std::string{alFinal} + "  callDBus(" +
-                     literal(bus_.nombre()) + ", \"/\", " + literal(interfaz) + ", " + literal(metodo) +
-                     ", JSON.stringify(todas));\n})();\n";
+                     literal(nuestro.servicio) + ", " + literal(nuestro.objeto) + ", " + literal(interfaz) +
+                     ", " + literal(metodo) + ", JSON.stringify(todas));\n})();\n";
   ArchivoDePaso const archivo{texto};
   if (archivo.ruta().empty()) return std::nullopt;
   std::vector<Argumento> const cual{archivo.ruta(), archivo.ruta()};
@@ -116,7 +117,7 @@ std::optional<std::string> VentanasDeKWin::correr(std::string const& guion) cons
   std::optional<std::string> respuesta;
   for (auto const& objeto : {"/Scripting/Script" + std::to_string(*numero), "/" + std::to_string(*numero)}) {
     if (!bus_.llamar({servicio, objeto, "org.kde.kwin.Script", "run"}, {}, plazoDelGuion)) continue;
-    respuesta = bus_.recibir(interfaz, metodo, plazoDelGuion);
+    respuesta = bus_.recibir(nuestro, plazoDelGuion);
     break;
   }
   std::vector<Argumento> const nombre{archivo.ruta()};

@@ -34,6 +34,8 @@ class VentanasDeKWin final : public Ventanas {
   [[nodiscard]] std::uint64_t idDe(std::string const& nombre) const;
 
   Bus bus_;
+  /// How many questions were asked: the late answer to one must not be taken for the next one's.
+  mutable unsigned preguntas_ = 0;
   /// The windows seen so far: a window's identifier is its place, from 1.
   mutable std::vector<std::string> nombres_;
 };

@@ -83,6 +83,7 @@ int enfocarPaneDeTmux(std::span<std::string const> args) {
     return quejarse("focus tmux takes a tty and a terminal", usoIncorrecto);
   }
   auto const* const elegida = args.size() == 2 ? fichaDeLinux(args[1]) : nullptr;
+  if (args.size() == 2 && elegida == nullptr) return quejarse("unknown terminal: " + args[1], usoIncorrecto);
   return enfocadoConPlazo([&] { return enfocarEnTmux(args[0], elegida, entornoDelProceso()); });
 }
 

@@ -29,7 +29,10 @@ bool Sesiones::abrirVentana(std::string const& orden) {
   auto const corrida = escritorio.ayudante({"open", ficha_.identificador, escritorio.casa().ruta(), orden});
   EXPECT_EQ(corrida.codigo, 0) << corrida.error;
   // A shell may run before its window is shown, which then takes the keyboard.
-  return esperarOtra() && (!sabeLasVentanas() || esperarA([&] { return ventanas().size() > antes; }));
+  if (!esperarOtra()) return false;
+  bool const seVe = !sabeLasVentanas() || esperarA([&] { return ventanas().size() > antes; });
+  EXPECT_TRUE(seVe) << "no window appeared";
+  return seVe;
 }
 
 bool Sesiones::sabeLasVentanas() const {

@@ -40,8 +40,13 @@ class Ayudante : public testing::Test {
 };
 
 TEST_F(Ayudante, elUsoIncorrectoTermina2ConUnaLinea) {
-  for (auto const& palabras : std::vector<std::vector<std::string>>{
-           {}, {"abrir"}, {"open"}, {"open", "xterm", "/"}, {"open", "nada", "/", "x"}, {"--help", "x"}}) {
+  for (auto const& palabras : std::vector<std::vector<std::string>>{{},
+                                                                    {"abrir"},
+                                                                    {"open"},
+                                                                    {"open", "xterm", "/"},
+                                                                    {"open", "nada", "/", "x"},
+                                                                    {"--help", "x"},
+                                                                    {"focus", "tmux", "pts/3", "nada"}}) {
     auto const corrida = correr(palabras);
     EXPECT_EQ(corrida.codigo, 2);
     EXPECT_EQ(corrida.salida, "");

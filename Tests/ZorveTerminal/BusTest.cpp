@@ -1,12 +1,22 @@
 #include "ZorveTerminal/Bus.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <sstream>
+#include <string>
 #include <vector>
+
+#include "Dobles/CarpetaTemporal.h"
+#include "Dobles/Correr.h"
 
 namespace zorve {
 namespace {
 
+using namespace std::chrono_literals;
 using Numeros = std::vector<std::uint32_t>;
 
 TEST(NodosNumerados, sonLosHijosCuyoNombreEsElPrefijoYUnNumero) {
@@ -22,6 +32,56 @@ TEST(NodosNumerados, loQueNoEsUnNumeroNoCuenta) {
         "<node name=\"99999999999\"/>", "<node name=\"/org\">"}) {
     EXPECT_EQ(nodosNumerados(texto, ""), Numeros{}) << texto;
   }
+}
+
+/// A session bus of its own.
+class ConBus : public testing::Test {
+ protected:
+  ConBus() {
+    auto const demonio = dobles::correr(
+        {"/usr/bin/dbus-daemon", "--session", "--fork", "--print-address=1", "--print-pid=1", direccion()});
+    std::istringstream{demonio.salida} >> direccion_ >> pid_;
+    EXPECT_GT(pid_, 1) << demonio.error;
+    ::setenv("DBUS_SESSION_BUS_ADDRESS", direccion_.c_str(), 1);
+  }
+  ~ConBus() override {
+    ::unsetenv("DBUS_SESSION_BUS_ADDRESS");
+    if (pid_ > 1) ::kill(pid_, SIGTERM);
+  }
+
+ private:
+  [[nodiscard]] std::string direccion() const { return "--address=unix:path=" + carpeta_.dentro("bus"); }
+
+  dobles::CarpetaTemporal carpeta_;
+  std::string direccion_;
+  pid_t pid_ = 0;
+};
+
+TEST_F(ConBus, recibirDejaPasarLoQueEsParaOtroObjetoUOtroMetodo) {
+  Bus const nuestro;
+  Bus const otro;
+  ASSERT_TRUE(nuestro.abierto() && otro.abierto());
+  auto const decir = [&](char const* objeto, char const* metodo, std::string const& texto) {
+    std::vector<Argumento> const argumentos{texto};
+    EXPECT_EQ(otro.llamar({nuestro.nombre(), objeto, "com.una.Prueba", metodo}, argumentos, 10ms),
+              std::unexpected{FalloDeBus::calla});
+  };
+  decir("/1", "Dice", "tarde");
+  decir("/2", "Calla", "otro");
+  decir("/2", "Dice", "bien");
+  EXPECT_EQ(nuestro.recibir({nuestro.nombre(), "/2", "com.una.Prueba", "Dice"}, 5s), "bien");
+  EXPECT_EQ(nuestro.recibir({nuestro.nombre(), "/1", "com.una.Prueba", "Dice"}, 10ms), std::nullopt);
+}
+
+TEST_F(ConBus, quienNoContestaCallaYQuienNoEstaRechaza) {
+  Bus const nuestro;
+  Bus const mudo;
+  Metodo metodo{mudo.nombre(), "/", "com.una.Prueba", "Dice"};
+  EXPECT_EQ(nuestro.llamar(metodo, {}, 50ms), std::unexpected{FalloDeBus::calla});
+  metodo.servicio = "com.sarnol.nadie";
+  EXPECT_EQ(nuestro.llamar(metodo), std::unexpected{FalloDeBus::rechaza});
+  EXPECT_EQ(nuestro.procesoDe(mudo.nombre()), ::getpid());
+  EXPECT_EQ(nuestro.procesoDe("com.sarnol.nadie"), 0);
 }
 
 }  // namespace

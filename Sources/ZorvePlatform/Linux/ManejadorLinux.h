@@ -41,7 +41,8 @@ struct LugaresDelManejador {
 };
 
 /// The system's terminal: what xdg-terminal-exec prints, KDE's kdeglobals, the GNOME-like setting, $TERMINAL,
-/// the alternatives link. An answer that is no known terminal, or one that is not installed, counts as none.
+/// the alternatives link. An answer that is no known terminal counts as none, and so does one that is not
+/// installed, but for the link's, which is the last.
 /// Looking runs programs, each bounded; the answers are those of the last look, and of a first one where
 /// there was none yet.
 class ManejadorLinux final : public ManejadorDelSistema {
