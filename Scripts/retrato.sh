@@ -30,7 +30,7 @@ espera() {
 "$aqui/casa-de-muestra.sh" "$casa" $$ "$clase"
 mkdir -p "$casa/.config/com.sarnol.zorve" "$casa/run"
 chmod 700 "$casa/run"
-printf '{"zorve.idioma":"%s"}\n' "$idioma" >"$casa/.config/com.sarnol.zorve/preferences.json"
+printf '{"zorve.idioma":"%s","zorve.avisoDeBandejaMostrado":true}\n' "$idioma" >"$casa/.config/com.sarnol.zorve/preferences.json"
 
 # por_escala POINTS: in pixels.
 por_escala() { awk -v n="$1" -v e="$escala" 'BEGIN { printf "%.0f", n * e }'; }
