@@ -21,14 +21,12 @@ std::string TerminalDeLinux::nombre() const { return ficha_.nombre; }
 
 std::string TerminalDeLinux::nombreDelBundle() const { return ficha_.entradaDeEscritorio; }
 
-bool TerminalDeLinux::puedeEnfocar() const {
-  return std::ranges::find(ficha_.enfocableEn, sesion_) != ficha_.enfocableEn.end();
-}
+bool TerminalDeLinux::puedeEnfocar() const { return seEnfocaEn(ficha_, sesion_); }
 
 bool TerminalDeLinux::estaInstalada() const { return zorve::estaInstalada(ficha_, aplicaciones_); }
 
 bool TerminalDeLinux::hospeda(std::string_view command) const {
-  return std::ranges::find(ficha_.procesos, nombreBase(command)) != ficha_.procesos.end();
+  return esProcesoDe(ficha_, nombreBase(command));
 }
 
 PlanDeApertura TerminalDeLinux::planParaAbrir(std::string const& cwd, std::string const& comando) const {
@@ -44,6 +42,14 @@ bool estaInstalada(FichaDeTerminal const& ficha, AplicacionesInstaladas const& a
   auto const hay = [&](std::string const& nombre) { return aplicaciones.hay(nombre); };
   auto const& entrada = ficha.entradaDeEscritorio;
   return std::ranges::any_of(ficha.programas, hay) || hay(entrada.substr(0, entrada.rfind('.')));
+}
+
+bool seEnfocaEn(FichaDeTerminal const& ficha, SesionGrafica sesion) {
+  return std::ranges::find(ficha.enfocableEn, sesion) != ficha.enfocableEn.end();
+}
+
+bool esProcesoDe(FichaDeTerminal const& ficha, std::string_view nombre) {
+  return std::ranges::find(ficha.procesos, nombre) != ficha.procesos.end();
 }
 
 }  // namespace zorve

@@ -38,4 +38,10 @@ class TerminalDeLinux final : public Terminal {
 /// Whether the system knows one of the terminal's executables, or its desktop entry.
 [[nodiscard]] bool estaInstalada(FichaDeTerminal const& ficha, AplicacionesInstaladas const& aplicaciones);
 
+/// Whether the terminal's windows can be brought to the front in that graphical session.
+[[nodiscard]] bool seEnfocaEn(FichaDeTerminal const& ficha, SesionGrafica sesion);
+
+/// Whether a process of that name hosts the terminal's shells.
+[[nodiscard]] bool esProcesoDe(FichaDeTerminal const& ficha, std::string_view nombre);
+
 }  // namespace zorve

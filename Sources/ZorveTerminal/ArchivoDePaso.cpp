@@ -6,13 +6,13 @@
 #include <fcntl.h>
 
 #include "ZorvePlatform/Posix/Descriptor.h"
+#include "ZorvePlatform/Posix/Variable.h"
 
 namespace zorve {
 
 ArchivoDePaso::ArchivoDePaso(std::string_view texto) {
-  char const* const carpeta = std::getenv("XDG_RUNTIME_DIR");  // NOLINT(concurrency-mt-unsafe): one thread
-  std::string ruta = carpeta != nullptr && carpeta[0] == '/' ? carpeta : "/tmp";
-  ruta += "/zorve-XXXXXX";
+  auto const carpeta = variable("XDG_RUNTIME_DIR");
+  auto ruta = (carpeta.starts_with('/') ? carpeta : "/tmp") + "/zorve-XXXXXX";
   Descriptor const archivo{::mkostemp(ruta.data(), O_CLOEXEC)};
   if (!archivo) return;
   ruta_ = ruta;

@@ -3,11 +3,10 @@
 #include <dbus/dbus.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <string_view>
 #include <utility>
 
-#include "ZorveCore/Entero.h"
+#include "ZorvePlatform/Posix/Variable.h"
 
 namespace zorve {
 
@@ -29,11 +28,9 @@ struct Error {
 };
 
 std::string direccionDelBus() {
-  // NOLINTBEGIN(concurrency-mt-unsafe): one thread
-  if (char const* const escrita = std::getenv("DBUS_SESSION_BUS_ADDRESS"); escrita != nullptr) return escrita;
-  char const* const carpeta = std::getenv("XDG_RUNTIME_DIR");
-  // NOLINTEND(concurrency-mt-unsafe)
-  return carpeta != nullptr ? "unix:path=" + std::string{carpeta} + "/bus" : std::string{};
+  if (auto escrita = variable("DBUS_SESSION_BUS_ADDRESS"); !escrita.empty()) return escrita;
+  auto const carpeta = variable("XDG_RUNTIME_DIR");
+  return carpeta.empty() ? std::string{} : "unix:path=" + carpeta + "/bus";
 }
 
 /// Text on the bus is UTF-8 without NUL; what is not goes as no text.
@@ -234,19 +231,6 @@ std::expected<std::vector<std::uint32_t>, FalloDeBus> Bus::numerados(std::string
   if (!respuesta) return std::unexpected{respuesta.error()};
   auto const* const texto = respuesta->empty() ? nullptr : std::get_if<std::string>(&respuesta->front());
   return texto != nullptr ? nodosNumerados(*texto, prefijo) : std::vector<std::uint32_t>{};
-}
-
-std::vector<std::uint32_t> nodosNumerados(std::string_view introspeccion, std::string_view prefijo) {
-  auto const principio = "<node name=\"" + std::string{prefijo};
-  std::vector<std::uint32_t> numeros;
-  for (auto i = introspeccion.find(principio); i != std::string_view::npos;
-       i = introspeccion.find(principio)) {
-    introspeccion.remove_prefix(i + principio.size());
-    auto const nombre = introspeccion.substr(0, introspeccion.find('"'));
-    if (auto const numero = enteroEn<std::uint32_t>(nombre)) numeros.push_back(*numero);
-  }
-  std::ranges::sort(numeros);
-  return numeros;
 }
 
 }  // namespace zorve

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "ZorveCore/Escape.h"
+#include "ZorveCore/TerminalDeLinux.h"
 #include "ZorveCore/TextoVisible.h"
 #include "ZorvePlatform/Linux/EntornoLinux.h"
 #include "ZorvePlatform/Linux/SesionGraficaLinux.h"
@@ -38,9 +39,7 @@ constexpr char const* nombreDelServidor = "tmux: server";
 struct OtroTmux {};
 using Anfitriona = std::variant<std::monostate, FichaDeTerminal const*, OtroTmux>;
 
-bool puedeEnfocarse(FichaDeTerminal const& ficha) {
-  return std::ranges::find(ficha.enfocableEn, sesionGraficaDelProceso()) != ficha.enfocableEn.end();
-}
+bool puedeEnfocarse(FichaDeTerminal const& ficha) { return seEnfocaEn(ficha, sesionGraficaDelProceso()); }
 
 /// A server is the parent of whatever leads one of its panes. Farther up it says nothing: a terminal that was
 /// started from a pane is no pane.
@@ -51,9 +50,8 @@ Anfitriona anfitrionaDe(std::string const& tty) {
   for (auto const pid : ascendencia(*lider)) {
     auto const nombre = nombreDelProceso(pid);
     if (nombre == nombreDelServidor) return {};
-    auto const ficha = std::ranges::find_if(fichasDeLinux(), [&](FichaDeTerminal const& una) {
-      return std::ranges::find(una.procesos, nombre) != una.procesos.end();
-    });
+    auto const ficha = std::ranges::find_if(
+        fichasDeLinux(), [&](FichaDeTerminal const& una) { return esProcesoDe(una, nombre); });
     if (ficha != fichasDeLinux().end()) {
       return puedeEnfocarse(*ficha) ? Anfitriona{&*ficha} : Anfitriona{};
     }

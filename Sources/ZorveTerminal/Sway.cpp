@@ -4,10 +4,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <cstring>
 #include <utility>
 
+#include "ZorvePlatform/Posix/Variable.h"
 #include "ZorveTerminal/EnchufeLocal.h"
 
 namespace zorve {
@@ -63,11 +63,6 @@ std::vector<Ventana> recoger(Nodo const& raiz) {
   return ventanas;
 }
 
-std::string_view rutaDelEnchufe() {
-  char const* const ruta = std::getenv("SWAYSOCK");  // NOLINT(concurrency-mt-unsafe): one thread
-  return ruta != nullptr ? ruta : "";
-}
-
 }  // namespace
 
 std::vector<Ventana> ventanasDelArbol(std::string_view arbol) {
@@ -77,7 +72,7 @@ std::vector<Ventana> ventanasDelArbol(std::string_view arbol) {
   return recoger(raiz);
 }
 
-Sway::Sway() : enchufe_{conectarA(rutaDelEnchufe())} {}
+Sway::Sway() : enchufe_{conectarA(variable("SWAYSOCK"))} {}
 
 bool Sway::abierta() const { return static_cast<bool>(enchufe_); }
 

@@ -5,21 +5,16 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 
 #include "ZorveCore/Entero.h"
 #include "ZorveCore/FalloDelSistema.h"
 #include "ZorveCore/TextoVisible.h"
+#include "ZorvePlatform/Posix/Variable.h"
 
 namespace zorve::ctl {
 
 namespace {
-
-std::string_view variable(char const* nombre) {
-  char const* const valor = std::getenv(nombre);
-  return valor == nullptr ? std::string_view{} : std::string_view{valor};
-}
 
 std::optional<std::size_t> columnasDelEntorno() {
   auto const columnas = enteroEn<std::size_t>(variable("COLUMNS"));

@@ -5,20 +5,15 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <string_view>
 #include <utility>
 
 #include "ZorveCore/Archivos.h"
+#include "ZorvePlatform/Posix/Variable.h"
 
 namespace zorve {
 
 namespace {
-
-std::string variable(char const* nombre) {
-  char const* valor = std::getenv(nombre);  // NOLINT(concurrency-mt-unsafe): contract of delProceso
-  return valor == nullptr ? std::string{} : std::string{valor};
-}
 
 std::string absolutaO(std::string const& valor, std::string const& otra) {
   return valor.starts_with('/') ? valor : otra;

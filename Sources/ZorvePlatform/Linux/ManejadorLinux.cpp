@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <filesystem>
 #include <ranges>
 #include <utility>
@@ -17,6 +16,7 @@
 #include "ZorvePlatform/Linux/AplicacionesLinux.h"
 #include "ZorvePlatform/Linux/ProgramaAcotado.h"
 #include "ZorvePlatform/Posix/LeerArchivo.h"
+#include "ZorvePlatform/Posix/Variable.h"
 
 namespace zorve {
 
@@ -31,11 +31,6 @@ constexpr std::array todasLasFuentes{FuenteDelManejador::xdgTerminalExec, Fuente
 
 /// Scripts of the package xterm that start xterm with another character set.
 constexpr std::array<std::string_view, 3> variantesDeXterm{"lxterm", "uxterm", "koi8rxterm"};
-
-std::string variable(char const* nombre) {
-  char const* valor = std::getenv(nombre);  // NOLINT(concurrency-mt-unsafe): contract of delProceso
-  return valor == nullptr ? std::string{} : std::string{valor};
-}
 
 std::string_view nombreDelPrograma(std::string_view ruta) {
   ruta = nombreBase(ruta);

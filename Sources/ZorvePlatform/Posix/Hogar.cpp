@@ -3,11 +3,13 @@
 #include <pwd.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
+#include <utility>
 #include <vector>
+
+#include "ZorvePlatform/Posix/Variable.h"
 
 namespace zorve {
 
@@ -32,8 +34,7 @@ std::string hogarDeLaCuenta() {
 }  // namespace
 
 std::expected<std::string, std::string> hogarDelUsuario() {
-  char const* const home = std::getenv("HOME");
-  if (home != nullptr && esAbsoluta(home)) return sinBarrasAlFinal(home);
+  if (auto home = variable("HOME"); esAbsoluta(home)) return sinBarrasAlFinal(std::move(home));
   auto cuenta = hogarDeLaCuenta();
   if (esAbsoluta(cuenta)) return sinBarrasAlFinal(std::move(cuenta));
   return std::unexpected{

@@ -1,13 +1,12 @@
 #include "ZorvePlatform/Posix/Local.h"
 
-#include <cstdlib>
+#include "ZorvePlatform/Posix/Variable.h"
 
 namespace zorve {
 
 ReglaDePlegado reglaDelEntorno() {
   for (auto const* nombre : {"LC_ALL", "LC_CTYPE", "LANG"}) {
-    char const* const local = std::getenv(nombre);
-    if (local != nullptr && *local != '\0') return reglaDe(local);
+    if (auto const local = variable(nombre); !local.empty()) return reglaDe(local);
   }
   return ReglaDePlegado::general;
 }
