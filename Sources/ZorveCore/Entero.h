@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <concepts>
+#include <memory>
 #include <optional>
 #include <string_view>
 
@@ -12,8 +13,8 @@ namespace zorve {
 template <std::integral Entero>
 [[nodiscard]] std::optional<Entero> enteroEn(std::string_view texto) {
   Entero valor{};
-  auto const* const fin = texto.data() + texto.size();
-  auto const [hasta, error] = std::from_chars(texto.data(), fin, valor);
+  auto const* const fin = std::to_address(texto.end());
+  auto const [hasta, error] = std::from_chars(std::to_address(texto.begin()), fin, valor);
   return error == std::errc{} && hasta == fin ? std::optional{valor} : std::nullopt;
 }
 

@@ -77,8 +77,8 @@ void Sesiones::laTeclaLlegaSoloA(std::size_t cual, std::string const& tecla) con
   auto const corrida = enfocar(cual);
   ASSERT_EQ(corrida.codigo, 0) << "session " << cual << " for " << tecla << ": " << corrida.error;
   EXPECT_EQ(corrida.salida + corrida.error, "");
-  std::vector<std::string> antes;
-  for (std::size_t i = 0; i < sesiones.size(); ++i) antes.push_back(teclasDe(i));
+  std::vector<std::string> antes(sesiones.size());
+  for (std::size_t i = 0; i < sesiones.size(); ++i) antes[i] = teclasDe(i);
   // A window that is slow to learn the keys of a keyboard loses the first ones; none may go elsewhere.
   auto const llego = [&] { return teclasDe(cual).substr(antes[cual].size()).ends_with(tecla + "\n"); };
   for (int veces = 0; veces < vecesQueSeTeclea && !llego(); ++veces) {

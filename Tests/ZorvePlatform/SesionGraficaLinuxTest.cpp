@@ -13,15 +13,17 @@ namespace {
 
 /// The test process's own environment, with these variables alone of those that matter.
 class SesionGraficaTest : public testing::Test {
+ public:
+  ~SesionGraficaTest() override {
+    for (auto const& [nombre, valor] : antes_) poner(nombre, valor);
+  }
+
  protected:
   SesionGraficaTest() {
     for (auto const* const nombre : nombres) {
       char const* const valor = std::getenv(nombre);
       antes_[nombre] = valor != nullptr ? std::optional<std::string>{valor} : std::nullopt;
     }
-  }
-  ~SesionGraficaTest() override {
-    for (auto const& [nombre, valor] : antes_) poner(nombre, valor);
   }
 
   static SesionGrafica con(std::map<std::string, std::string> const& variables) {
