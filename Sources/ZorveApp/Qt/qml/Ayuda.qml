@@ -4,20 +4,23 @@ import QtQuick
 Rectangle {
     id: ayuda
 
+    property double cabeza: 0
     property double pie: 0
 
-    // Shows `texto` with its foot or, in the upper half, its head at `y`; an empty text takes it away.
-    function mostrar(texto, y) {
+    // Shows `texto` for what reaches from `arriba` to `abajo`: below it in the upper half, else above it. An empty
+    // text takes it away.
+    function mostrar(texto, arriba, abajo) {
         visible = false
         letrero.text = texto
-        pie = y
+        cabeza = arriba
+        pie = abajo
         if (texto.length > 0) espera.restart()
         else espera.stop()
     }
 
     visible: false
     anchors { right: parent.right; rightMargin: 12 }
-    y: pie < parent.height / 2 ? pie : pie - height - 4
+    y: pie < parent.height / 2 ? pie - 6 : cabeza - height + 2
     width: Math.min(letrero.implicitWidth, estilo.ancho - 80) + 18
     height: letrero.height + 10
     radius: 6

@@ -31,13 +31,13 @@ Escalado {
 
     Lista {
         id: lista
-        onAyuda: (texto, y) => ayuda.mostrar(texto, lista.y + y - 8)
+        onAyuda: (texto, y) => ayuda.mostrar(texto, lista.y + y - estilo.altoDeFila, lista.y + y)
         anchors { left: parent.left; right: parent.right; top: banda.bottom; bottom: pie.top }
     }
 
     Pie {
         id: pie
-        onAyuda: texto => ayuda.mostrar(texto, pie.y)
+        onAyuda: texto => ayuda.mostrar(texto, pie.y - 6, raiz.height)
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
     }
 
