@@ -37,14 +37,14 @@ TEST(NodosNumerados, loQueNoEsUnNumeroNoCuenta) {
 /// A session bus of its own.
 class ConBus : public testing::Test {
  protected:
-  ConBus() {
+  void SetUp() override {
     auto const demonio = dobles::correr(
         {"/usr/bin/dbus-daemon", "--session", "--fork", "--print-address=1", "--print-pid=1", direccion()});
     std::istringstream{demonio.salida} >> direccion_ >> pid_;
-    EXPECT_GT(pid_, 1) << demonio.error;
+    ASSERT_GT(pid_, 1) << demonio.error;
     ::setenv("DBUS_SESSION_BUS_ADDRESS", direccion_.c_str(), 1);
   }
-  ~ConBus() override {
+  void TearDown() override {
     ::unsetenv("DBUS_SESSION_BUS_ADDRESS");
     if (pid_ > 1) ::kill(pid_, SIGTERM);
   }
