@@ -2,7 +2,6 @@
 # The settings come up in the middle of the screen that the pointer is on.
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
-monitor() { xrandr --setmonitor "$1" "$2/300x$3/200+$4+$5" "$6" >/dev/null; }
 escritorio lista -screen 0 2240x1024x24
 monitor izquierda 1280 800 0 0 screen
 monitor derecha 960 1024 1280 0 none

@@ -27,8 +27,10 @@ panel_visible || fallo "closing the menu took the panel away"
 pulsa_en "$x" "$y"
 espera no panel_visible
 
-xdotool mousemove "$x" "$y" keydown Control_L click 1 keyup Control_L
+# The key is asked for when the click arrives.
+xdotool mousemove "$x" "$y" keydown Control_L click 1
 espera menu
+xdotool keyup Control_L
 ! panel_visible || fallo "a Control click opened the panel"
 read -r mx my mancho malto < <(lugar "$(menu)")
 pulsa_en $((mx + mancho / 2)) $((my + malto - 12))

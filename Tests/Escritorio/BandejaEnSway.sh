@@ -10,13 +10,8 @@ arranca barra swaybar -b abajo -s "$SWAYSOCK"
 espera tiene_nombre org.kde.StatusNotifierWatcher
 teclado
 WAYLAND_DEBUG=client zorve
-elementos() {
-  dbus-send --session --print-reply --dest=org.kde.StatusNotifierWatcher /StatusNotifierWatcher \
-    org.freedesktop.DBus.Properties.Get string:org.kde.StatusNotifierWatcher \
-    string:RegisteredStatusNotifierItems | sed -nE 's/.*string "([^"]*)".*/\1/p' | grep .
-}
-espera elementos
-elemento=$(elementos)
+espera hay_elemento
+elemento=$(elementos_sn)
 pide() {
   local metodo=$1
   shift

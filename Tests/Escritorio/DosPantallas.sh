@@ -3,8 +3,6 @@
 # for without an icon, on the one with the pointer.
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
-# monitor NAME WIDTH HEIGHT X Y OUTPUT
-monitor() { xrandr --setmonitor "$1" "$2/300x$3/200+$4+$5" "$6" >/dev/null; }
 escritorio lista -screen 0 2240x1024x24
 # The host of StatusNotifier items knows but monitors with an output.
 monitor DER 960 720 1280 0 screen

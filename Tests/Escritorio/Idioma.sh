@@ -10,9 +10,7 @@ barra_sn 6
 # Where the icon is on the bus: its service and its path.
 busca_el_icono() {
   espera hay_icono_sn
-  elemento=$(dbus-send --session --print-reply --dest=org.kde.StatusNotifierWatcher /StatusNotifierWatcher \
-    org.freedesktop.DBus.Properties.Get string:org.kde.StatusNotifierWatcher \
-    string:RegisteredStatusNotifierItems | sed -nE 's/.*string "([^"]*)".*/\1/p')
+  elemento=$(elementos_sn)
   servicio=${elemento%%/*}
 }
 propiedad() {

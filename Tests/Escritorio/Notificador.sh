@@ -40,8 +40,10 @@ xdotool key ctrl+w
 espera no ajustes
 
 # We draw it on a Control click.
-xdotool mousemove "$x" "$y" keydown Control_L click 1 keyup Control_L
+# The host tells of the click, not of the key: that one is held until the click has arrived.
+xdotool mousemove "$x" "$y" keydown Control_L click 1
 espera menu
+xdotool keyup Control_L
 ! panel_visible || fallo "a Control click opened the panel"
 xdotool key Home Return
 espera ajustes

@@ -8,7 +8,6 @@ entradas() {
   gdbus call --session --dest "$(elementos_sn | cut -d/ -f1)" --object-path /MenuBar \
     --method com.canonical.dbusmenu.GetLayout 0 -- -1 '[]' | grep -oE "'label': <'[^']*'>" | sed -E "s/.*<'(.*)'>/\1/" | tr '\n' ' '
 }
-hay_elemento() { [ -n "$(elementos_sn)" ]; }
 entradas_son() { [ "$(entradas)" = "$1" ]; }
 anfitrion=/usr/libexec/ayatana-indicator-application/ayatana-indicator-application-service
 arranca menus "$anfitrion"

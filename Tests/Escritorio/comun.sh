@@ -37,8 +37,11 @@ cuenta_lo_visto() {
   if [ -n "${ZORVE_FOTOS:-}" ]; then import -window root "$ZORVE_FOTOS/$(basename "$0" .sh).png" || :; fi
 }
 
+# It also says which lines of the test led there.
 fallo() {
+  local nivel=0
   echo "failed: $*" >&2
+  while caller "$nivel"; do nivel=$((nivel + 1)); done >&2
   exit 1
 }
 
@@ -71,6 +74,9 @@ servidor() {
   DISPLAY=:$(cat "$casa/pantalla")
   export DISPLAY
 }
+
+# monitor NAME WIDTH HEIGHT X Y OUTPUT: a part of the server's screen that counts as one.
+monitor() { xrandr --setmonitor "$1" "$2/300x$3/200+$4+$5" "$6" >/dev/null; }
 
 bus() {
   dbus-daemon --session --nofork --print-address=3 3>"$casa/bus" 2>/dev/null &
@@ -223,7 +229,11 @@ casilla_sn() {
   done
   return 1
 }
-hay_icono_sn() { casilla_sn >/dev/null; }
+# The host makes the place before the button in it: only what is drawn takes clicks. A bar of one colour has no icon.
+hay_icono_sn() {
+  local casilla
+  casilla=$(casilla_sn) && [ "$(import -silent -window "$casilla" png:- | convert png:- -format %k info:)" -gt 12 ]
+}
 # The menu that the host draws, which is ours.
 menu_sn() {
   local cada alto
@@ -250,6 +260,7 @@ elementos_sn() {
     org.freedesktop.DBus.Properties.Get string:org.kde.StatusNotifierWatcher string:RegisteredStatusNotifierItems |
     sed -nE 's/.*string "([^"]*)".*/\1/p'
 }
+hay_elemento() { [ -n "$(elementos_sn)" ]; }
 
 # copiado_es N: Control+C copies the identifier of the sample's session N.
 copiado_es() {

@@ -109,7 +109,7 @@ void DelegadoQt::reabrir(Testigo testigo) {
 }
 
 void DelegadoQt::alClic(ClicEnLaBarra clic) {
-  bool const quisoCerrar = !clic.derecho && !clic.conControl && ventana_ && ventana_->recienCerrada();
+  bool const quisoCerrar = !clic.derecho && !clic.conControl && ventana_ && ventana_->tomarElCierre();
   if (!quisoCerrar) item_.clic(clic);
 }
 

@@ -131,7 +131,9 @@ void EscritorioX11::comprobarPulsacion() {
   if (!donde) return;
   auto const tamano = QSizeF{vigilada_->size()} * vigilada_->devicePixelRatio();
   if (QRectF{QPointF{0, 0}, tamano}.contains(donde->win_x, donde->win_y)) return;
-  alPulsarFuera_(QCursor::pos());
+  // A copy: who is told may end the listening.
+  auto const avisar = alPulsarFuera_;
+  avisar(QCursor::pos());
 }
 
 }  // namespace zorve

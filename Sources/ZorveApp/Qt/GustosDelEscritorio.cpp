@@ -6,6 +6,8 @@
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "ZorveApp/Qt/X11.h"
 
@@ -29,6 +31,13 @@ bool escalaElTexto() { return X11::conexion() == nullptr; }
 QVariant desnudo(QVariant valor) {
   while (valor.canConvert<QDBusVariant>()) valor = valor.value<QDBusVariant>().variant();
   return valor;
+}
+
+/// 1 for what is no number.
+double escalaDicha(QVariant const& valor) {
+  bool esNumero = false;
+  auto const escala = valor.toDouble(&esNumero);
+  return esNumero && std::isfinite(escala) ? std::clamp(escala, escalaMinima, escalaMaxima) : 1;
 }
 
 }  // namespace
@@ -76,6 +85,7 @@ void GustosDelEscritorio::alCambiar(QString const& espacio, QString const& clave
 
 void GustosDelEscritorio::anotar(QString const& espacio, QString const& clave, QVariant const& valor) {
   constexpr unsigned prefiereClaro = 2;
+  auto const antes = std::pair{claro_, dePantalla_};
   auto const es = [&](char const* cualEspacio, char const* cualClave) {
     return espacio == QLatin1String{cualEspacio} && clave == QLatin1String{cualClave};
   };
@@ -87,9 +97,9 @@ void GustosDelEscritorio::anotar(QString const& espacio, QString const& clave, Q
   dePantalla_.altoContraste = contraste_[0] || contraste_[1];
   dePantalla_.conMovimiento = !quietud_[0] && !quietud_[1];
   if (es(gnome, "text-scaling-factor") && escalaElTexto()) {
-    dePantalla_.escala = std::clamp(valor.toDouble(), escalaMinima, escalaMaxima);
+    dePantalla_.escala = escalaDicha(valor);
   }
-  Q_EMIT cambio();
+  if (antes != std::pair{claro_, dePantalla_}) Q_EMIT cambio();
 }
 
 }  // namespace zorve

@@ -107,8 +107,9 @@ void VentanaDelPanel::ocultar() {
   Q_EMIT escondida();
 }
 
-bool VentanaDelPanel::recienCerrada() const {
-  return cerradaPorFuera_ >= 0 && milisegundos() - cerradaPorFuera_ < momento;
+bool VentanaDelPanel::tomarElCierre() {
+  auto const cerrada = std::exchange(cerradaPorFuera_, -1);
+  return cerrada >= 0 && milisegundos() - cerrada < momento;
 }
 
 void VentanaDelPanel::alPulsarFuera(QPoint donde) {
@@ -132,6 +133,11 @@ void VentanaDelPanel::keyPressEvent(QKeyEvent* evento) {
     return;
   }
   QQuickView::keyPressEvent(evento);
+}
+
+void VentanaDelPanel::closeEvent(QCloseEvent* evento) {
+  esconder();
+  QQuickView::closeEvent(evento);
 }
 
 }  // namespace zorve

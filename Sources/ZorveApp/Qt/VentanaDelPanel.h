@@ -10,8 +10,8 @@
 
 namespace zorve {
 
-/// The panel's window: shown and hidden, never closed. It closes by itself when the keyboard goes elsewhere
-/// or a button is pressed outside it and outside its anchor. Main thread only.
+/// The panel's window: shown and hidden; whoever closes it hides it. It closes by itself when the keyboard
+/// goes elsewhere or a button is pressed outside it and outside its anchor. Main thread only.
 class VentanaDelPanel final : public QQuickView {
   Q_OBJECT
 
@@ -26,7 +26,8 @@ class VentanaDelPanel final : public QQuickView {
   void mostrarEn(std::optional<Ancla> const& ancla);
   void esconder();
   /// Whether a press outside has closed it a moment ago: that press was meant to close it, not to open it.
-  [[nodiscard]] bool recienCerrada() const;
+  /// A press is one click: asked again, no.
+  [[nodiscard]] bool tomarElCierre();
   /// Square corners and solid glass even where windows can be translucent.
   void exigirOpaco(bool si);
   /// How much larger than usual it is. A screen without room for it gets a smaller one all the same.
@@ -37,6 +38,8 @@ class VentanaDelPanel final : public QQuickView {
 
  protected:
   void keyPressEvent(QKeyEvent* evento) override;
+  /// The window system's own way to close it.
+  void closeEvent(QCloseEvent* evento) override;
 
  private:
   void ocultar();
