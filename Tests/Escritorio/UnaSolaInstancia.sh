@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# A second start shows the first one's panel and ends; D-Bus activation does the same; the bus offers nothing
-# else; arguments are refused.
+# A second start shows the first one's panel and ends, or says that the first one does not answer; D-Bus activation
+# shows it too; the bus offers nothing else; arguments are refused.
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
 escritorio lista
@@ -18,5 +18,9 @@ metodos=$(dbus-send --session --print-reply --dest=com.sarnol.zorve /com/sarnol/
 [ "$(grep -c 'interface name="org.freedesktop.Application"' <<<"$metodos")" -eq 1 ] || fallo "not exported: $metodos"
 ! grep 'interface' <<<"$metodos" | grep -vE 'org.freedesktop.(Application|DBus.(Properties|Introspectable|Peer))"' ||
   fallo "more is exported: $metodos"
+kill -STOP "$zorve_pid"
+! segundo 2>"$casa/segundo.err" || fallo "a second start takes a first one that hangs for shown"
+kill -CONT "$zorve_pid"
+grep -q 'does not answer' "$casa/segundo.err" || fallo "the second start says: $(cat "$casa/segundo.err")"
 ! "$bin/zorve" algo 2>/dev/null || fallo "an argument was taken"
 kill -0 "$zorve_pid" || fallo "the first one is gone"

@@ -93,6 +93,7 @@ Item {
         }
 
         function test_menosOpcionesQueAntesNoRompenNada() {
+            failOnWarning(/Error/)
             ajustes.grupos = [{ titulo: "A", opciones: opciones(9) }, { titulo: "B", opciones: opciones(2) }]
             waitForRendering(vista)
             ajustes.grupos = [{ titulo: "A", opciones: opciones(1) }]

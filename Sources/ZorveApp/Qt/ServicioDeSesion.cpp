@@ -14,11 +14,12 @@ constexpr int plazo = 5000;
 QString nombre() { return QStringLiteral("com.sarnol.zorve"); }
 QString ruta() { return QStringLiteral("/com/sarnol/zorve"); }
 
-void pedirQueSeMuestre(QDBusConnection const& bus, Testigo const& testigo) {
+/// Whether it answers.
+bool pedirQueSeMuestre(QDBusConnection const& bus, Testigo const& testigo) {
   auto pedido = QDBusMessage::createMethodCall(
       nombre(), ruta(), QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
   pedido << testigo.datosDePlataforma();
-  bus.call(pedido, QDBus::Block, plazo);
+  return bus.call(pedido, QDBus::Block, plazo).type() == QDBusMessage::ReplyMessage;
 }
 
 }  // namespace
@@ -34,8 +35,7 @@ ServicioDeSesion::Turno ServicioDeSesion::ocupar(Testigo const& testigo) {
       nombre(), QDBusConnectionInterface::DontQueueService, QDBusConnectionInterface::DontAllowReplacement);
   if (respuesta.value() == QDBusConnectionInterface::ServiceRegistered) return Turno::primero;
   bus.unregisterObject(ruta());
-  pedirQueSeMuestre(bus, testigo);
-  return Turno::segundo;
+  return pedirQueSeMuestre(bus, testigo) ? Turno::segundo : Turno::mudo;
 }
 
 void ServicioDeSesion::soltar() {

@@ -19,6 +19,7 @@ class ServicioDeSesion final : public QObject {
   enum class Turno : std::uint8_t {
     primero,  ///< the name is ours
     segundo,  ///< another one has it and has been asked to show its panel
+    mudo,     ///< another one has it and does not answer
     sinBus,   ///< there is no session bus; nobody can be asked
   };
 

@@ -143,7 +143,14 @@ void nombrar() {
 int correr(Testigo const& testigo, std::vector<std::string> entorno) {
   Programa* programa = nullptr;
   ServicioDeSesion servicio{[&](Testigo llamada) { programa->delegado.reabrir(std::move(llamada)); }};
-  if (servicio.ocupar(testigo) == ServicioDeSesion::Turno::segundo) return 0;
+  auto const turno = servicio.ocupar(testigo);
+  if (turno == ServicioDeSesion::Turno::segundo) return 0;
+  if (turno == ServicioDeSesion::Turno::mudo) {
+    std::fputs(
+        "zorve: the one that runs already does not answer on the session bus; end it and start again\n",
+        stderr);
+    return 1;
+  }
   auto const home = hogarDelUsuario();
   if (!home) {
     std::fprintf(stderr, "zorve: %s\n", home.error().c_str());
