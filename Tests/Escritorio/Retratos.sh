@@ -21,7 +21,7 @@ retrato() {
   fi
   distancia=$(compare -metric RMSE "$tmp/$nombre.png" "$guardados/$nombre.png" null: 2>&1 | sed -E 's/.*\((.*)\)/\1/') || :
   echo "$nombre: $distancia"
-  awk -v d="$distancia" -v p="$peor" 'BEGIN { exit !(d <= p) }' || mal=1
+  awk -v d="$distancia" -v p="$peor" 'BEGIN { exit !(d ~ /^[0-9]/ && d <= p) }' || mal=1
 }
 
 mkdir -p "$guardados"

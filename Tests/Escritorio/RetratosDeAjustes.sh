@@ -23,7 +23,7 @@ retrato() {
   fi
   distancia=$(compare -metric RMSE "$chico" "$guardado" null: 2>&1 | sed -E 's/.*\((.*)\)/\1/') || :
   echo "$1: $distancia"
-  awk -v d="$distancia" -v p="$peor" 'BEGIN { exit !(d <= p) }' || mal=1
+  awk -v d="$distancia" -v p="$peor" 'BEGIN { exit !(d ~ /^[0-9]/ && d <= p) }' || mal=1
 }
 
 escritorio lista

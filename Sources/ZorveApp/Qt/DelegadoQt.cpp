@@ -8,6 +8,7 @@
 
 #include "ZorveApp/Qt/Conversiones.h"
 #include "ZorveApp/Qt/EstiloQt.h"
+#include "ZorveApp/Qt/TextosPropios.h"
 #include "ZorveApp/Qt/TiposDeLetra.h"
 
 namespace zorve {
@@ -24,15 +25,6 @@ void devolverMemoria() {
 #ifdef __GLIBC__
   malloc_trim(0);
 #endif
-}
-
-QString avisoSinBandeja(Idioma idioma) {
-  return idioma == Idioma::es
-             ? QStringLiteral(
-                   "Este escritorio no tiene bandeja para el icono de Zorve. Vuelve a abrir Zorve para "
-                   "mostrar este panel.")
-             : QStringLiteral(
-                   "This desktop has no tray for Zorve's icon. Open Zorve again to show this panel.");
 }
 
 }  // namespace
@@ -86,7 +78,7 @@ void DelegadoQt::avisarSiNoHayBandeja() {
   con_.activacion.agotar();
   if (barra_.puesto() || con_.banderas.bandera(banderaSinBandeja)) return;
   con_.banderas.marcar(banderaSinBandeja);
-  puente_.escribirAvisoPropio(avisoSinBandeja(*con_.idioma.idioma()));
+  puente_.escribirAvisoPropio(TextosPropios::avisoSinBandeja(*con_.idioma.idioma()));
   connect(
       &ventana(), &VentanaDelPanel::escondida, &puente_, [this] { puente_.escribirAvisoPropio({}); },
       Qt::SingleShotConnection);

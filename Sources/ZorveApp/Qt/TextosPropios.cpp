@@ -20,4 +20,11 @@ QString quienDiceLaTerminal(Idioma idioma, QString const& fuente) {
          fuente + u'.';
 }
 
+QString avisoSinBandeja(Idioma idioma) {
+  return elegir(
+      idioma, "This desktop has no tray for Zorve's icon. Open Zorve again to show this panel.",
+      "Este escritorio no tiene bandeja para el icono de Zorve. Vuelve a abrir Zorve para mostrar este "
+      "panel.");
+}
+
 }  // namespace zorve::TextosPropios

@@ -6,13 +6,15 @@
 
 namespace zorve {
 
-/// Texts that only this front end has: names for screen readers, and where the system's terminal is set.
+/// Texts that only this front end has: names for screen readers, where the system's terminal is set, and that
+/// there is no tray.
 namespace TextosPropios {
 
 [[nodiscard]] QString campoDeBusqueda(Idioma idioma);
 [[nodiscard]] QString listaDeSesiones(Idioma idioma);
 /// `fuente` as a person knows it ("$TERMINAL").
 [[nodiscard]] QString quienDiceLaTerminal(Idioma idioma, QString const& fuente);
+[[nodiscard]] QString avisoSinBandeja(Idioma idioma);
 
 }  // namespace TextosPropios
 }  // namespace zorve
