@@ -23,14 +23,15 @@ preferencias '{"app.zorve.panelMostradoEnPrimerArranque":true,"zorve.avisoDeBand
 zorve
 muestra
 xdotool type uno
-sleep 0.3
+espera se_copia 00000001-0000-4000-8000-000000000000
 xdotool key Return
 abierta() { [ "$(tr '\n' ' ' <"$casa/abiertas")" = "$1" ]; }
 espera abierta "$casa/src/uno -r 00000001-0000-4000-8000-000000000000 . "
 espera no panel_visible
 muestra
 xdotool key BackSpace BackSpace BackSpace
-sleep 0.3
+# The title of the second row.
+espera hay_color "$(panel)" '#f4f6fa' 300x25+44+121
 read -r x y _ _ < <(lugar "$(panel)")
 pulsa_en $((x + 200)) $((y + 59 + 56 + 28))
 espera abierta "$casa/src/uno -r 00000001-0000-4000-8000-000000000000 . $casa/src/dos -r 00000002-0000-4000-8000-000000000000 . "

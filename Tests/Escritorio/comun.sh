@@ -180,12 +180,14 @@ cuantos_pixeles() {
 }
 hay_color() { [ "$(cuantos_pixeles "$1" "$2" "$3")" -gt 3 ]; }
 
-# copiado_es N: Control+C copies the identifier of the sample's session N.
-copiado_es() {
+# se_copia ID: Control+C copies it.
+se_copia() {
   xdotool key --clearmodifiers ctrl+c
   sleep 0.1
-  portapapeles_es "$(printf '%08d-5e55-4000-8000-%012d' "$1" "$1")"
+  portapapeles_es "$1"
 }
+# copiado_es N: Control+C copies the identifier of the sample's session N.
+copiado_es() { se_copia "$(printf '%08d-5e55-4000-8000-%012d' "$1" "$1")"; }
 
 # shellcheck source=Tests/Escritorio/comun-bandejas.sh
 . "$aqui/comun-bandejas.sh"
