@@ -20,6 +20,12 @@ constexpr std::uint32_t comoUnPaginador = 2;
 constexpr std::uint32_t maximoDePalabras = 16384;
 constexpr std::chrono::milliseconds entreMiradas{20};
 constexpr std::chrono::milliseconds entrePeticiones{500};
+/// How long an active window may be without the keyboard before its word is taken: a program may keep it in a
+/// window that is not below its own.
+constexpr std::chrono::milliseconds esperaDelTeclado{1000};
+/// How long the window must keep the keyboard: a program that learns late that it had it takes it back.
+constexpr std::chrono::milliseconds firmeza{100};
+constexpr int masHondo = 32;
 
 template <class T>
 struct Liberar {
@@ -81,6 +87,26 @@ struct VentanasX::Conexion {
     return cual != XCB_WINDOW_NONE && cual != raiz;
   }
 
+  /// The server's time, always later than what was given before: a request that carries it wins over a
+  /// program that takes the keyboard late, with the time of an older request (ICCCM 4.1.7).
+  [[nodiscard]] xcb_timestamp_t hora() const {
+    if (testigo == XCB_WINDOW_NONE) {
+      testigo = xcb_generate_id(x);
+      std::uint32_t const sucesos = XCB_EVENT_MASK_PROPERTY_CHANGE;
+      xcb_create_window(x, 0, testigo, raiz, -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
+                        XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &sucesos);
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds{2});
+    xcb_change_property(x, XCB_PROP_MODE_APPEND, testigo, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 0, nullptr);
+    xcb_flush(x);
+    while (true) {
+      Respuesta<xcb_generic_event_t> const suceso{xcb_wait_for_event(x)};
+      if (!suceso) return XCB_CURRENT_TIME;
+      if ((suceso->response_type & 0x7F) != XCB_PROPERTY_NOTIFY) continue;
+      return reinterpret_cast<xcb_property_notify_event_t const*>(suceso.get())->time;
+    }
+  }
+
   void pedir(xcb_window_t ventana, std::string_view nombre, std::uint32_t primero) const {
     xcb_client_message_event_t mensaje{};
     mensaje.response_type = XCB_CLIENT_MESSAGE;
@@ -88,10 +114,24 @@ struct VentanasX::Conexion {
     mensaje.window = ventana;
     mensaje.type = atomo(nombre);
     mensaje.data.data32[0] = primero;
-    mensaje.data.data32[1] = XCB_CURRENT_TIME;
+    mensaje.data.data32[1] = hora();
     xcb_send_event(x, 0, raiz, XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
                    reinterpret_cast<char const*>(&mensaje));
     xcb_flush(x);
+  }
+
+  /// The keyboard is in the window or in one below it.
+  [[nodiscard]] bool tieneElTeclado(xcb_window_t ventana) const {
+    Respuesta<xcb_get_input_focus_reply_t> const foco{
+        xcb_get_input_focus_reply(x, xcb_get_input_focus(x), nullptr)};
+    auto cual = foco ? foco->focus : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
+    for (int nivel = 0; nivel < masHondo && cual > XCB_INPUT_FOCUS_POINTER_ROOT && cual != raiz; ++nivel) {
+      if (cual == ventana) return true;
+      Respuesta<xcb_query_tree_reply_t> const arbol{
+          xcb_query_tree_reply(x, xcb_query_tree(x, cual), nullptr)};
+      cual = arbol ? arbol->parent : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
+    }
+    return false;
   }
 
   void irASuEscritorio(xcb_window_t ventana) const {
@@ -103,6 +143,7 @@ struct VentanasX::Conexion {
 
   xcb_connection_t* x = nullptr;
   xcb_window_t raiz = XCB_WINDOW_NONE;
+  mutable xcb_window_t testigo = XCB_WINDOW_NONE;
   mutable std::map<std::string_view, xcb_atom_t> atomos;
 };
 
@@ -126,21 +167,41 @@ std::vector<Ventana> VentanasX::todas() const {
   return ventanas;
 }
 
+namespace {
+
+/// Since when `vale` holds without a break.
+void desde(std::optional<Reloj::time_point>& cuando, bool vale, Reloj::time_point ahora) {
+  if (!vale) {
+    cuando.reset();
+  } else if (!cuando) {
+    cuando = ahora;
+  }
+}
+
+}  // namespace
+
 bool VentanasX::activar(std::uint64_t id, std::chrono::milliseconds plazo) const {
   if (!abierta()) return false;
   auto const ventana = static_cast<xcb_window_t>(id);
   auto const limite = Reloj::now() + plazo;
   auto siguiente = Reloj::now();
+  std::optional<Reloj::time_point> activaDesde;
+  std::optional<Reloj::time_point> conTecladoDesde;
   while (Reloj::now() < limite) {
-    if (Reloj::now() >= siguiente) {
+    if (!conTecladoDesde && Reloj::now() >= siguiente) {
       conexion_->irASuEscritorio(ventana);
       conexion_->pedir(ventana, "_NET_ACTIVE_WINDOW", comoUnPaginador);
       siguiente = Reloj::now() + entrePeticiones;
     }
-    if (conexion_->numero(conexion_->raiz, "_NET_ACTIVE_WINDOW") == ventana) return true;
+    auto const ahora = Reloj::now();
+    bool const activa = conexion_->numero(conexion_->raiz, "_NET_ACTIVE_WINDOW") == ventana;
+    desde(activaDesde, activa, ahora);
+    desde(conTecladoDesde, activa && conexion_->tieneElTeclado(ventana), ahora);
+    if (conTecladoDesde && ahora - *conTecladoDesde >= firmeza) return true;
+    if (activaDesde && !conTecladoDesde && ahora - *activaDesde >= esperaDelTeclado) return true;
     std::this_thread::sleep_for(entreMiradas);
   }
-  return false;
+  return activaDesde.has_value();
 }
 
 }  // namespace zorve

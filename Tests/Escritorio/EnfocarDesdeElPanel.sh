@@ -38,7 +38,7 @@ enfoca 1 uno a
 enfoca 2 dos b
 enfoca 3 tres c
 enfoca 5 cinco d
-xdotool getactivewindow windowminimize
+xdotool getactivewindow windowminimize --sync
 enfoca 4 cuatro e
 enfoca 2 dos f
 xdotool set_desktop 1

@@ -27,9 +27,11 @@ class DosVentanas : public testing::TestWithParam<FichaDeTerminal> {
   void enTodasPartes() {
     dos.laTeclaLlegaSoloA(0, "a");
     dos.laTeclaLlegaSoloA(1, "b");
-    ASSERT_TRUE(dos.hacer({"xdotool", "getactivewindow", "windowminimize"}));
+    ASSERT_TRUE(dos.hacer({"xdotool", "getactivewindow", "windowminimize", "--sync"}));
     dos.laTeclaLlegaSoloA(1, "c");
     ASSERT_TRUE(dos.hacer({"xdotool", "set_desktop", "1"}));
+    ASSERT_TRUE(dos.hacer(
+        {"timeout", "10", "sh", "-c", "until [ \"$(xdotool get_desktop)\" = 1 ]; do sleep 0.05; done"}));
     dos.laTeclaLlegaSoloA(0, "d");
   }
 

@@ -131,7 +131,7 @@ TEST_P(Pestanas, laTeclaLlegaALaPestanaEnfocadaYLosTitulosVuelven) {
   s.laTeclaLlegaSoloA(0, "a");
   s.laTeclaLlegaSoloA(2, "b");
   s.laTeclaLlegaSoloA(1, "c");
-  ASSERT_TRUE(s.hacer({"xdotool", "getactivewindow", "windowminimize"}));
+  ASSERT_TRUE(s.hacer({"xdotool", "getactivewindow", "windowminimize", "--sync"}));
   s.laTeclaLlegaSoloA(0, "d");
   ASSERT_TRUE(s.hacer({"xdotool", "set_desktop", "1"}));
   s.laTeclaLlegaSoloA(1, "e");
@@ -201,7 +201,7 @@ TEST(GnomeTerminalConBuscador, muestraLaPestanaQueSeLePide) {
   s.laTeclaLlegaSoloA(0, "a");
   s.laTeclaLlegaSoloA(2, "b");
   s.laTeclaLlegaSoloA(1, "c");
-  ASSERT_TRUE(s.hacer({"xdotool", "getactivewindow", "windowminimize"}));
+  ASSERT_TRUE(s.hacer({"xdotool", "getactivewindow", "windowminimize", "--sync"}));
   s.laTeclaLlegaSoloA(0, "d");
 }
 
@@ -215,7 +215,7 @@ TEST(TituloQueCambia, laMarcaSeVeAunqueLaSesionEscribaTitulosSinCesar) {
   ASSERT_TRUE(s.abrirVentana("titulos") && s.abrirVentana("titulos"));
   s.laTeclaLlegaSoloA(0, "a");
   s.laTeclaLlegaSoloA(1, "b");
-  ASSERT_TRUE(s.hacer({"xdotool", "getactivewindow", "windowminimize"}));
+  ASSERT_TRUE(s.hacer({"xdotool", "getactivewindow", "windowminimize", "--sync"}));
   s.laTeclaLlegaSoloA(1, "c");
 }
 

@@ -52,7 +52,7 @@ TEST_F(ConTmux, laTeclaLlegaAlPaneDeCadaVentanaYSesionEnDosTerminales) {
   enfocadaLaTeclaLlegaSoloA(uno, "a");
   enfocadaLaTeclaLlegaSoloA(dos, "b");
   enfocadaLaTeclaLlegaSoloA(otraVentana, "c");
-  ASSERT_EQ(escritorio.correr({"xdotool", "getactivewindow", "windowminimize"}).codigo, 0);
+  ASSERT_EQ(escritorio.correr({"xdotool", "getactivewindow", "windowminimize", "--sync"}).codigo, 0);
   enfocadaLaTeclaLlegaSoloA(alLado, "d");
   ASSERT_EQ(escritorio.correr({"xdotool", "set_desktop", "1"}).codigo, 0);
   enfocadaLaTeclaLlegaSoloA(debajo, "e");
