@@ -19,8 +19,7 @@ setxkbmap -layout us -variant intl -option compose:menu
 export QT_IM_MODULE=compose
 zorve
 muestra
-# As a person types: of keys that arrive all at once the toolkit delivers composed text before the letters that
-# precede it.
+# As a person types: of keys that arrived all at once a composed letter was seen before those that precede it.
 xdotool key --delay 100 Multi_key c equal
 espera copiado_es 2
 xdotool key --delay 100 BackSpace c a f dead_acute e
