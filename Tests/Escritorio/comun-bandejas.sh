@@ -56,12 +56,12 @@ hay_icono_sn() {
   local casilla
   casilla=$(casilla_sn) && [ "$(import -silent -window "$casilla" png:- | convert png:- -format %k info:)" -gt 12 ]
 }
-# The menu that the host draws, which is ours.
+# The menu that the host draws, which is ours. Its tooltip is as high as a menu, but narrow.
 menu_sn() {
-  local cada alto
+  local cada ancho alto
   for cada in $(xdotool search --onlyvisible --class '^wrapper-2.0$' 2>/dev/null); do
-    read -r _ _ _ alto < <(lugar "$cada")
-    [ "$alto" -gt 40 ] && echo "$cada" && return 0
+    read -r _ _ ancho alto < <(lugar "$cada")
+    [ "$alto" -gt 40 ] && [ "$ancho" -gt 100 ] && echo "$cada" && return 0
   done
   return 1
 }
