@@ -107,10 +107,10 @@ class Escritor {
 
  private:
   [[nodiscard]] static std::string proyecto(std::size_t p) {
-    return "/home/u/work/project-" + std::to_string(p);
+    return "/home/u/code/project-" + std::to_string(p);
   }
   [[nodiscard]] std::string carpeta(std::size_t p) const {
-    return raiz_ + "/.claude/projects/-home-u-work-project-" + std::to_string(p);
+    return raiz_ + "/.claude/projects/-home-u-code-project-" + std::to_string(p);
   }
 
   [[nodiscard]] std::vector<std::size_t> largos() {

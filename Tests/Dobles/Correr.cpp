@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "Dobles/CarpetaTemporal.h"
+#include "ZorvePlatform/Posix/ProcesoHijo.h"
 
 extern char** environ;  // NOLINT(readability-redundant-declaration)
 
@@ -32,14 +33,6 @@ std::vector<std::string> entornoCon(std::map<std::string, std::string> const& ca
     if (!valor.empty()) todo.emplace_back(nombre).append("=").append(valor);
   }
   return todo;
-}
-
-std::vector<char*> punteros(std::vector<std::string>& textos) {
-  std::vector<char*> resultado;
-  resultado.reserve(textos.size() + 1);
-  for (auto& texto : textos) resultado.push_back(texto.data());
-  resultado.push_back(nullptr);
-  return resultado;
 }
 
 void abrirComo(int descriptor, char const* ruta, int modo) {

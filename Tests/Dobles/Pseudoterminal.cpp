@@ -1,5 +1,7 @@
 #include "Dobles/Pseudoterminal.h"
 
+#include "ZorvePlatform/Posix/ProcesoHijo.h"
+
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/wait.h>
@@ -18,14 +20,6 @@
 namespace zorve::dobles {
 
 namespace {
-
-std::vector<char*> punteros(std::vector<std::string>& textos) {
-  std::vector<char*> resultado;
-  resultado.reserve(textos.size() + 1);
-  for (auto& texto : textos) resultado.push_back(texto.data());
-  resultado.push_back(nullptr);
-  return resultado;
-}
 
 /// As a terminal starts its programs, whatever the test itself was started with.
 void senalesDeFabrica() {

@@ -27,7 +27,7 @@ Proceso procesoDe(pid_t pid) {
 }
 
 bool conLosLargos() {
-  char const* const valor = std::getenv("ZORVE_TODO");
+  char const* const valor = std::getenv("ZORVE_LARGOS");
   return valor != nullptr && std::string_view{valor} == "si";
 }
 

@@ -1,5 +1,7 @@
 #include "Terminales/Escritorio.h"
 
+#include "ZorvePlatform/Posix/ProcesoHijo.h"
+
 #include <dirent.h>
 #include <fcntl.h>
 #include <spawn.h>
@@ -39,14 +41,6 @@ std::vector<std::string> comoUsuarioOrdinario(std::vector<std::string> palabras)
   std::vector<std::string> const delante{"setpriv", "--reuid", numero, "--regid", numero, "--clear-groups"};
   palabras.insert(palabras.begin(), delante.begin(), delante.end());
   return palabras;
-}
-
-std::vector<char*> punteros(std::vector<std::string>& textos) {
-  std::vector<char*> resultado;
-  resultado.reserve(textos.size() + 1);
-  for (auto& texto : textos) resultado.push_back(texto.data());
-  resultado.push_back(nullptr);
-  return resultado;
 }
 
 std::vector<std::string> partir(std::string const& todo) {
