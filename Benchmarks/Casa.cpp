@@ -24,7 +24,7 @@ constexpr std::size_t zonaDelTitulo = 40'960;
 /// Bytes of a line beside its message.
 constexpr std::size_t restoDeLinea = 420;
 /// Changes with what the homes hold, so that older ones are made anew.
-constexpr std::string_view version = "4\n";
+constexpr std::string_view version = "5\n";
 /// With it the smallest of 2,000 files of 1.1 GB has a few KiB and the largest some 20 MiB.
 constexpr double dispersion = 1.4;
 constexpr double mayor = 48.0 * 1024 * 1024;

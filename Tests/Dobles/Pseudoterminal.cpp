@@ -1,7 +1,5 @@
 #include "Dobles/Pseudoterminal.h"
 
-#include "ZorvePlatform/Posix/ProcesoHijo.h"
-
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/wait.h>
@@ -16,6 +14,8 @@
 #include <array>
 #include <csignal>
 #include <stdexcept>
+
+#include "ZorvePlatform/Posix/ProcesoHijo.h"
 
 namespace zorve::dobles {
 

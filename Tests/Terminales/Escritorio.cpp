@@ -1,7 +1,5 @@
 #include "Terminales/Escritorio.h"
 
-#include "ZorvePlatform/Posix/ProcesoHijo.h"
-
 #include <dirent.h>
 #include <fcntl.h>
 #include <spawn.h>
@@ -17,6 +15,8 @@
 #include <stdexcept>
 #include <string_view>
 #include <thread>
+
+#include "ZorvePlatform/Posix/ProcesoHijo.h"
 
 namespace zorve::pruebas {
 
