@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "ZorveCore/Archivos.h"
+#include "ZorveCore/Lectura/Archivos.h"
 
 namespace zorve::medir {
 
@@ -32,6 +32,7 @@ class ArchivosContados final : public Archivos {
       std::string const& ruta) override {
     return verdaderos_.listar(ruta);
   }
+  [[nodiscard]] bool existe(std::string const& ruta) override { return verdaderos_.existe(ruta); }
 
  private:
   class Contado final : public ArchivoAbierto {

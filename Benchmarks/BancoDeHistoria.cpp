@@ -6,7 +6,7 @@
 #include "Casa.h"
 #include "Proceso.h"
 #include "Tabla.h"
-#include "ZorveCore/HistoryStore.h"
+#include "ZorveCore/Lectura/HistoryStore.h"
 #include "ZorvePlatform/Posix/ArchivosPosix.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include "Casa.h"
 #include "Tabla.h"
 #include "Vara.h"
-#include "ZorveCore/TranscriptScanner.h"
+#include "ZorveCore/Lectura/TranscriptScanner.h"
 #include "ZorvePlatform/Posix/ArchivosPosix.h"
 
 namespace {

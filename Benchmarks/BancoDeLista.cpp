@@ -6,8 +6,8 @@
 #include "Casa.h"
 #include "Proceso.h"
 #include "Tabla.h"
-#include "ZorveCore/HistoryStore.h"
-#include "ZorveCore/SessionIndex.h"
+#include "ZorveCore/Lectura/HistoryStore.h"
+#include "ZorveCore/Lectura/SessionIndex.h"
 #include "ZorvePlatform/Posix/ArchivosPosix.h"
 #include "ZorvePlatform/Posix/VidaDeProcesosPosix.h"
 

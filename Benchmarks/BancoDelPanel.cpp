@@ -126,7 +126,7 @@ struct Panel {
   EstadoDelPanel estado;
   PreferenciaDeIdioma idioma{preferencias};
   ModeloDeVista modelo{{.cargar = [] { return IndexResult{}; },
-                        .catalogo = {},
+                        .servicios = {},
                         .ejecutor = ejecutor,
                         .portapapeles = portapapeles,
                         .despachador = despachador,

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "Dobles/LectorDeLiterales.h"
-#include "ZorveCore/Escape.h"
+#include "ZorveCore/Texto/Escape.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "SegundaLectura.h"
-#include "ZorveCore/HistoryStore.h"
+#include "ZorveCore/Lectura/HistoryStore.h"
 
 namespace zorve::fuzz {
 namespace {
@@ -25,6 +25,7 @@ class UnArchivo final : public Archivos {
   std::expected<std::vector<std::string>, FalloDelSistema> listar(std::string const&) override {
     return std::vector<std::string>{};
   }
+  bool existe(std::string const&) override { return true; }
 
  private:
   class Abierto final : public ArchivoAbierto {

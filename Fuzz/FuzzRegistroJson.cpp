@@ -3,7 +3,7 @@
 #include <string>
 
 #include "SegundaLectura.h"
-#include "ZorveCore/RegistroJson.h"
+#include "ZorveCore/Lectura/RegistroJson.h"
 
 namespace zorve::fuzz {
 namespace {

@@ -36,9 +36,9 @@ viva() {
 }
 
 lista() {
-  sesion 20 "CASA/src/zorve" 42 "Rewrite the history parser for streaming reads"
+  sesion 2 "CASA/src/zorve" 42 "Rewrite the history parser for streaming reads"
   viva busy
-  sesion 400 "CASA/src/zorve" 12 "Parser fails on lone surrogates"
+  sesion 362 "CASA/src/zorve" 12 "Parser fails on lone surrogates"
   viva idle
   sesion 7300 "CASA/trabajo/señales" 7 "Añadir pruebas del parser y documentar los casos límite"
   sesion 18100 "CASA/src/bench/parser" 31 "Benchmark the parser against a bare read"

@@ -24,10 +24,15 @@ callado() {
   fi
 }
 
-# paquetes GROUP...: the packages of the groups, one a line.
+# paquetes GROUP...: the packages that the groups have in this release, one a line.
 paquetes() {
-  local grupo
-  for grupo in "$@"; do awk -v g="$grupo" '$1 == g { print $2 }' Scripts/paquetes.txt; done | sort -u
+  local grupo edicion
+  # shellcheck disable=SC1091
+  edicion=$(. /etc/os-release 2>/dev/null && echo "${VERSION_CODENAME-}") || :
+  for grupo in "$@"; do
+    awk -v g="$grupo" -v e="$edicion" '$1 == g && ($3 == "" || index("," $3 ",", "," e ",")) { print $2 }' \
+      Scripts/paquetes.txt
+  done | sort -u
 }
 
 # instala GROUP...: installs what is missing of the groups; quick when nothing is.

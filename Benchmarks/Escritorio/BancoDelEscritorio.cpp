@@ -1,6 +1,6 @@
 // The program as a person meets it, from outside: how soon the icon stands, the panel is painted after a
-// click and the list after a key; what it holds in memory; whether it sleeps. On an X server and bus of its
-// own.
+// click and the list after a key; what it holds in memory; whether it sleeps. On an X server and a bus
+// that nobody else uses.
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -25,7 +25,6 @@
 namespace zorve::medir {
 namespace {
 
-constexpr int ancho = 1280;
 constexpr int plazoMs = 60'000;
 constexpr std::uint32_t cifraSiete = 0x37;
 constexpr std::uint32_t retroceso = 0xFF08;
@@ -41,28 +40,6 @@ double mediana(std::vector<double> todas) {
   return todas[todas.size() / 2];
 }
 double peor(std::vector<double> const& todas) { return *std::ranges::max_element(todas); }
-
-/// A server that says where it is on its standard output; it ends with this object.
-class Servidor {
- public:
-  Servidor(QString const& programa, QStringList const& palabras) {
-    proceso_.start(programa, palabras);
-    if (!proceso_.waitForReadyRead(plazoMs))
-      throw std::runtime_error{programa.toStdString() + " does not start"};
-    lugar_ = proceso_.readLine().trimmed();
-  }
-  Servidor(Servidor const&) = delete;
-  Servidor& operator=(Servidor const&) = delete;
-  ~Servidor() {
-    proceso_.kill();
-    proceso_.waitForFinished();
-  }
-  [[nodiscard]] QByteArray const& lugar() const { return lugar_; }
-
- private:
-  QProcess proceso_;
-  QByteArray lugar_;
-};
 
 /// Milliseconds until `hecho`, with the bus attended to meanwhile.
 double hasta(std::function<bool()> const& hecho, int descanso = 0) {
@@ -114,6 +91,7 @@ class Banco {
   explicit Banco(std::string const& casa) {
     qputenv("HOME", QByteArray::fromStdString(casa));
     qputenv("XDG_CONFIG_HOME", carpeta_.filePath(QStringLiteral("config")).toLocal8Bit());
+    qputenv("XDG_CURRENT_DESKTOP", "");
     qputenv("XDG_RUNTIME_DIR", carpeta_.path().toLocal8Bit());
     std::filesystem::create_directories(
         carpeta_.filePath(QStringLiteral("config/com.sarnol.zorve")).toStdString());
@@ -236,16 +214,6 @@ int main(int cuantos, char** palabras) {
           .nombre = "escritorio", .transcripciones = 5000, .bytes = 5000UL * 8192, .lineasDeHistoria = 20'000}
           .preparar();
   QCoreApplication const aplicacion{cuantos, palabras};
-  Servidor const x{QStringLiteral("Xvfb"),
-                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                    QStringLiteral("0"), QStringLiteral("%1x800x24").arg(ancho), QStringLiteral("-nolisten"),
-                    QStringLiteral("tcp"), QStringLiteral("-noreset")}};
-  Servidor const bus{
-      QStringLiteral("dbus-daemon"),
-      {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address")}};
-  qputenv("DISPLAY", ":" + x.lugar());
-  qputenv("DBUS_SESSION_BUS_ADDRESS", bus.lugar());
-  qputenv("XDG_CURRENT_DESKTOP", "");
   tabla::titulo("The front end with 5,000 sessions");
   try {
     Banco{casa}.todo();

@@ -18,9 +18,13 @@ using Respuesta = std::unique_ptr<T, Liberar>;
 
 }  // namespace
 
-Pantalla::Pantalla()
-    : conexion_{xcb_connect(nullptr, nullptr)},
-      raiz_{xcb_setup_roots_iterator(xcb_get_setup(conexion_)).data->root} {}
+Pantalla::Pantalla() : conexion_{xcb_connect(nullptr, nullptr)} {
+  if (xcb_connection_has_error(conexion_) != 0) {
+    xcb_disconnect(conexion_);
+    throw std::runtime_error{"there is no X server to draw on; ./bench starts one for it"};
+  }
+  raiz_ = xcb_setup_roots_iterator(xcb_get_setup(conexion_)).data->root;
+}
 
 Pantalla::~Pantalla() { xcb_disconnect(conexion_); }
 

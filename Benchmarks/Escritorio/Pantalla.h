@@ -26,7 +26,7 @@ class Pantalla {
   void enviar(std::uint8_t clase, std::uint8_t tecla) const;
 
   xcb_connection_t* conexion_;
-  xcb_window_t raiz_;
+  xcb_window_t raiz_ = 0;
 };
 
 }  // namespace zorve::medir

@@ -10,6 +10,11 @@ carpeta=$(mktemp -d)
 trap 'rm -rf "$carpeta"' EXIT
 ditto "$app" "$carpeta/Zorve.app"
 ln -s /Applications "$carpeta/Applications"
-hdiutil create -volname Zorve -srcfolder "$carpeta" -fs HFS+ -format UDZO -ov "$salida"
+# hdiutil finds its volume busy now and then, while the system looks through it.
+for intento in 1 2 3 4; do
+  hdiutil create -volname Zorve -srcfolder "$carpeta" -fs HFS+ -format UDZO -ov "$salida" && break
+  [ "$intento" -lt 4 ] || { echo "imagen.sh: hdiutil failed $intento times; is $salida or a volume Zorve in use?" >&2; exit 1; }
+  sleep $((intento * 5))
+done
 codesign --force --sign "$identidad" "$salida"
 hdiutil verify "$salida"

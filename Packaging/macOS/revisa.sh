@@ -6,15 +6,17 @@ app=${1:?usage: revisa.sh APP}
 falla() { echo "revisa.sh: $1" >&2; exit 1; }
 
 codesign --verify --strict --deep --verbose=2 "$app"
-codesign --display --verbose=2 "$app" 2>&1 | grep -q 'flags=.*runtime' || falla "the hardened runtime is off"
-codesign --display --entitlements - --xml "$app" 2>/dev/null | grep -q com.apple.security.automation.apple-events ||
+# contiene TEXT PATTERN: the text is whole before it is searched, so that no writer meets a closed pipe.
+contiene() { grep -qE -- "$2" <<<"$1"; }
+contiene "$(codesign --display --verbose=2 "$app" 2>&1)" 'flags=.*runtime' || falla "the hardened runtime is off"
+contiene "$(codesign --display --entitlements - --xml "$app" 2>/dev/null)" com.apple.security.automation.apple-events ||
   falla "the entitlement to automate terminals is missing"
 plutil -lint "$app/Contents/Info.plist" "$app"/Contents/Resources/*.lproj/InfoPlist.strings
 
 for programa in "$app/Contents/MacOS/Zorve" "$app/Contents/MacOS/zorvectl"; do
   for arquitectura in arm64 x86_64; do
     lipo "$programa" -verify_arch "$arquitectura" || falla "$programa is not for $arquitectura"
-    otool -arch "$arquitectura" -l "$programa" | grep -q 'minos 13.0' || falla "$programa asks for another system"
+    contiene "$(otool -arch "$arquitectura" -l "$programa")" 'minos 13\.0' || falla "$programa asks for another system"
     ajenas=$(otool -arch "$arquitectura" -L "$programa" |
       awk 'NR > 1 && $1 !~ "^/(System/Library/Frameworks|usr/lib)/" { print $1 }')
     [ -z "$ajenas" ] || falla "$programa needs $ajenas"

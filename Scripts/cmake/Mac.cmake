@@ -24,6 +24,7 @@ if(ZORVE_FRONT_END)
       MACOSX_PACKAGE_LOCATION Resources/${idioma}.lproj)
   endforeach()
   # The companion goes into the bundle; then the whole is signed for this Mac, as arm64 code must be to run.
+  set_property(TARGET Zorve APPEND PROPERTY LINK_DEPENDS $<TARGET_FILE:zorvectl>)
   add_dependencies(Zorve zorvectl)
   add_custom_command(TARGET Zorve POST_BUILD
     COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:zorvectl> $<TARGET_BUNDLE_CONTENT_DIR:Zorve>/MacOS/zorvectl

@@ -3,6 +3,9 @@
 option(ZORVE_SOLO_PORTABLE "Leave out what needs the system's frameworks" OFF)
 
 if(NOT ZORVE_SOLO_PORTABLE)
+  if(CMAKE_VERSION VERSION_LESS 3.26)
+    message(FATAL_ERROR "CMake ${CMAKE_VERSION} gives Objective-C++ no language standard: install 3.26 or later")
+  endif()
   enable_language(OBJCXX)
   set(CMAKE_OBJCXX_STANDARD 23)
   set(CMAKE_OBJCXX_STANDARD_REQUIRED ON)

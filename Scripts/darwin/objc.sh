@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # objc.sh [FILE...]: every Objective-C++ source through clang's syntax, ARC and nullability checks, warnings as
 # errors, on Linux. The toolkit's headers are GNUstep's; what they lack, Scripts/darwin/gnustep declares. A
-# misspelt selector, a wrong argument type, a retain cycle that clang sees: these fail. Nothing is built.
+# misspelt selector, a wrong argument type, a retain cycle that clang sees: these fail. Nothing is built; the
+# tests over the toolkit and the toolkit itself are built, by frente.sh.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 . Scripts/comun.sh
@@ -24,6 +25,7 @@ opciones=(-std=c++23 -x objective-c++ -fsyntax-only -fobjc-arc -fblocks -fobjc-r
   -Wnullable-to-nonnull-conversion -Wnullability-completeness -Wundeclared-selector -Wselector)
 
 archivos=("$@")
-[ ${#archivos[@]} -gt 0 ] || mapfile -t archivos < <(git ls-files -co --exclude-standard -- '*.mm')
+[ ${#archivos[@]} -gt 0 ] || mapfile -t archivos < <(git ls-files -co --exclude-standard -- '*.mm' \
+  ':!Tests/MacOS/Tramoya' ':!Tests/MacOS/Frente')
 printf '%s\0' "${archivos[@]}" | xargs -0 -P "$(trabajos)" -I{} "$clang" "${opciones[@]}" {}
 nota "${#archivos[@]} Objective-C++ sources checked"

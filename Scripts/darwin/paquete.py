@@ -89,9 +89,11 @@ def check_homebrew():
     formula = (made / "tap/Formula/zorvectl.rb").read_text()
     for name, text in (("cask", cask), ("formula", formula)):
         check(not re.search(r"@[A-Z_]+@", text), f"the {name} has a placeholder left")
-        check(f'version "{version}"' in text, f"the {name} has another version")
         opened = len(re.findall(r"\bdo\b|^class\b|^\s*def\b", text, re.M))
         check(opened == len(re.findall(r"^\s*end$", text, re.M)), f"the {name}'s blocks do not close")
+    check(f'version "{version}"' in cask, "the cask has another version")
+    check(f'url "https://example.org/zorve/zorve-{version}.tar.gz"' in formula,
+          "the formula's address, which is where its version stands, has another version")
     image = sha256(made / "Zorve-0.1.0.dmg")
     check(f'sha256 "{image}"' in cask and 'url "https://example.org/zorve/Zorve-0.1.0.dmg"' in cask,
           "the cask's image is another")

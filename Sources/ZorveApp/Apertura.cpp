@@ -1,22 +1,16 @@
 #include "ZorveApp/Apertura.h"
 
-#include <exception>
-#include <utility>
-
-#include "ZorveCore/Texto.h"
+#include "ZorveApp/FraseDeTecleo.h"
+#include "ZorveApp/InterruptorDeVentanas.h"
+#include "ZorveCore/Terminales/Tecleado.h"
+#include "ZorveCore/Texto/Texto.h"
 
 namespace zorve {
 
 namespace {
 
-std::string errorDeApertura(FalloDeApertura const& fallo, Textos const& textos) {
-  if (auto const* nuestro = std::get_if<IndexError>(&fallo)) return nuestro->mensaje;
-  return textos.noSePudoAbrir(descripcionDe(fallo));
-}
-
-std::string avisoSinEnfoque(NoSePuedeEnfocar const& plan, Terminal const& terminal, Textos const& textos) {
-  if (!plan.tty) return std::string{textos.vivaSinTty};
-  return textos.vivaSinEnfoque(*plan.tty, terminal.nombre());
+std::string avisoDe(NoSePuedeEnfocar const& plan, Anfitriona const& anfitriona, Textos const& textos) {
+  return plan.tty ? textos.vivaSinEnfoque(*plan.tty, anfitriona.nombre()) : textos.vivaSinTty;
 }
 
 std::optional<std::string> fallaAlCorrer(ComandoDeApertura const& comando, Ejecutor const& ejecutor,
@@ -29,14 +23,15 @@ std::optional<std::string> fallaAlCorrer(ComandoDeApertura const& comando, Ejecu
 }
 
 ResultadoDeApertura abrirCon(TerminalResuelta const& resuelta, PeticionDeApertura const& peticion) {
-  Launcher const lanzador{resuelta.terminal, peticion.ejecutor, peticion.rutaPs,
-                          peticion.anfitrionas(peticion.catalogo.conocidas, resuelta.terminal)};
   ResultadoDeApertura resultado{.terminal = resuelta};
-  auto const plan = lanzador.plan(peticion.sesion);
+  auto const plan = peticion.servicios.lanzador(resuelta.terminal, peticion.ejecutor).plan(peticion.sesion);
   if (!plan) {
-    resultado.error = errorDeApertura(plan.error(), peticion.textos);
+    resultado.error = textoDe(plan.error(), peticion.textos);
   } else if (auto const* sinEnfoque = std::get_if<NoSePuedeEnfocar>(&*plan)) {
-    resultado.aviso = avisoSinEnfoque(*sinEnfoque, *resuelta.terminal, peticion.textos);
+    resultado.aviso = avisoDe(*sinEnfoque, *resuelta.terminal, peticion.textos);
+    if (sinEnfoque->tty && peticion.servicios.faltaUnInterruptor()) {
+      resultado.consejo = TextosDelInterruptor::consejo(peticion.textos.idioma);
+    }
   } else {
     resultado.error =
         ejecutarComandos(std::get<std::vector<ComandoDeApertura>>(*plan), peticion.ejecutor, peticion.textos);
@@ -48,6 +43,7 @@ ResultadoDeApertura abrirCon(TerminalResuelta const& resuelta, PeticionDeApertur
 
 std::optional<std::string> ejecutarComandos(std::span<ComandoDeApertura const> comandos,
                                             Ejecutor const& ejecutor, Textos const& textos) {
+  if (auto const directorio = loQueNoSeTeclea(comandos)) return noSeTeclea(*directorio, textos.idioma);
   for (auto const& comando : comandos) {
     if (auto falla = fallaAlCorrer(comando, ejecutor, textos)) return falla;
   }
@@ -59,20 +55,18 @@ std::string descripcionDe(FalloDeApertura const& fallo) {
   return std::get<FalloDelSistema>(fallo).descripcion;
 }
 
-std::expected<TerminalResuelta, FalloDeApertura> resolverTerminal(CatalogoDeTerminales const& catalogo) {
-  try {
-    if (catalogo.mirarElManejador) catalogo.mirarElManejador();
-    auto resuelta = catalogo.resolver();
-    if (!resuelta) return std::unexpected{FalloDeApertura{std::move(resuelta.error())}};
-    return *std::move(resuelta);
-  } catch (std::exception const& error) {
-    return std::unexpected{FalloDeApertura{FalloDelSistema{0, error.what()}}};
-  }
+std::string textoDe(FalloDeApertura const& fallo, Textos const& textos) {
+  auto const descripcion = descripcionDe(fallo);
+  return std::holds_alternative<IndexError>(fallo) ? descripcion : textos.noSePudoAbrir(descripcion);
+}
+
+std::string razonDe(NoSePuedeEnfocar const& plan, Anfitriona const& anfitriona, Textos const& textos) {
+  return plan.tty ? textos.sinEnfoque(*plan.tty, anfitriona.nombre()) : textos.sinTty();
 }
 
 ResultadoDeApertura abrirSesion(PeticionDeApertura const& peticion) {
-  auto const resuelta = resolverTerminal(peticion.catalogo);
-  if (!resuelta) return {.error = errorDeApertura(resuelta.error(), peticion.textos)};
+  auto const resuelta = mirar(peticion.servicios.fuentes).resuelta;
+  if (!resuelta) return {.error = textoDe(resuelta.error(), peticion.textos)};
   return abrirCon(*resuelta, peticion);
 }
 

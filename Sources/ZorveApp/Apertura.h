@@ -6,27 +6,25 @@
 #include <string>
 
 #include "ZorveApp/Textos.h"
-#include "ZorveCore/Anfitrionas.h"
-#include "ZorveCore/CatalogoDeTerminales.h"
-#include "ZorveCore/Ejecutor.h"
-#include "ZorveCore/Launcher.h"
+#include "ZorveCore/Terminales/Ejecutor.h"
+#include "ZorveCore/Terminales/ServiciosDeApertura.h"
 
 namespace zorve {
 
 /// Everything that one opening needs, copied, so that it can run away from the main thread.
 struct PeticionDeApertura {
   Session sesion;
-  CatalogoDeTerminales catalogo;
+  ServiciosDeApertura servicios;
   Ejecutor const& ejecutor;
-  std::string rutaPs;
   Textos textos;
-  Anfitrionas anfitrionas = soloLasConocidas;
 };
 
-/// `terminal`: what the catalogue resolved, nothing when it failed. At most one of the two texts is set.
+/// `terminal`: what was resolved, nothing when that failed. At most one of `aviso` and `error`
+/// is set; `consejo` only beside `aviso`.
 struct ResultadoDeApertura {
   std::optional<TerminalResuelta> terminal;
   std::optional<std::string> aviso;
+  std::optional<std::string> consejo = std::nullopt;
   std::optional<std::string> error;
 };
 
@@ -34,15 +32,19 @@ struct ResultadoDeApertura {
 /// Texts are in the language of `peticion.textos`. Any thread but the main one.
 [[nodiscard]] ResultadoDeApertura abrirSesion(PeticionDeApertura const& peticion);
 
-/// Has the system's terminal looked up and asks the catalogue; what its functions throw becomes a failure.
-/// Any thread but the main one.
-[[nodiscard]] std::expected<TerminalResuelta, FalloDeApertura> resolverTerminal(
-    CatalogoDeTerminales const& catalogo);
-
-/// Runs `comandos` one after another up to the first that fails; the text of that failure, or nothing. Any
-/// thread but the main one.
+/// Runs `comandos` one after another up to the first that fails; the text of that failure, or nothing. Where
+/// they would type control characters into a shell none is run, and that is the failure. Any thread but the
+/// main one.
 [[nodiscard]] std::optional<std::string> ejecutarComandos(std::span<ComandoDeApertura const> comandos,
                                                           Ejecutor const& ejecutor, Textos const& textos);
+
+/// A failure to plan as people are told it: ours as it stands, the system's behind "Could not open the
+/// session".
+[[nodiscard]] std::string textoDe(FalloDeApertura const& fallo, Textos const& textos);
+
+/// Why there is nothing to bring to the front, without the panel's hint.
+[[nodiscard]] std::string razonDe(NoSePuedeEnfocar const& plan, Anfitriona const& anfitriona,
+                                  Textos const& textos);
 
 /// The one-line description of a failure.
 [[nodiscard]] std::string descripcionDe(FalloDeApertura const& fallo);

@@ -8,8 +8,9 @@ Idioma idiomaGuardado(std::string_view texto) { return desdeTextoCrudo<Idioma>(t
 
 std::string_view nombrePropio(Idioma idioma) { return idioma == Idioma::es ? "Español" : "English"; }
 
-PreferenciaDeIdioma::PreferenciaDeIdioma(Preferencias& preferencias)
+PreferenciaDeIdioma::PreferenciaDeIdioma(Preferencias& preferencias, VocesDelSistema const& voces)
     : preferencias_{preferencias},
+      voces_{voces},
       idioma_{idiomaGuardado(textoGuardado(preferencias, std::string{clave}).value_or(""))} {}
 
 std::expected<void, IndexError> PreferenciaDeIdioma::elegir(Idioma nuevo) {

@@ -9,6 +9,7 @@
 #include "ZorveApp/Observable.h"
 #include "ZorveCore/Enumeracion.h"
 #include "ZorveCore/Preferencias.h"
+#include "ZorveCore/VocesDelSistema.h"
 
 namespace zorve {
 
@@ -34,9 +35,11 @@ class PreferenciaDeIdioma {
   static constexpr std::string_view clave = "zorve.idioma";
 
   /// Reads the stored language. `preferencias` outlives this object.
-  explicit PreferenciaDeIdioma(Preferencias& preferencias);
+  explicit PreferenciaDeIdioma(Preferencias& preferencias, VocesDelSistema const& voces = {});
 
   [[nodiscard]] Observable<Idioma> const& idioma() const { return idioma_; }
+  /// In which this system's texts are written, whatever the language.
+  [[nodiscard]] VocesDelSistema const& voces() const { return voces_; }
 
   /// Stores `nuevo` and puts it in force, unless it is in force already. When it cannot be stored it is in
   /// force until the program ends, and the failure is returned.
@@ -44,6 +47,7 @@ class PreferenciaDeIdioma {
 
  private:
   Preferencias& preferencias_;
+  VocesDelSistema voces_;
   Observable<Idioma> idioma_;
 };
 

@@ -24,7 +24,7 @@ void ItemDeEstado::mostrarElPanelSiEsLaPrimeraVez() {
 
 void ItemDeEstado::clic(std::optional<ClicEnLaBarra> evento) {
   if (evento && (evento->derecho || evento->conControl)) {
-    cara_.mostrarMenu(menuDelItem(Textos{*idioma_.idioma()}));
+    cara_.mostrarMenu(menuDelItem(textosDe(idioma_)));
   } else if (cara_.panelVisible()) {
     cara_.cerrarPanel();
   } else {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ZorveCore/Filtro.h"
+#include "ZorveCore/Texto/Filtro.h"
 
 namespace zorve {
 

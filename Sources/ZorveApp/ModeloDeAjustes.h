@@ -15,7 +15,7 @@
 #include "ZorveApp/InicioDeSesion.h"
 #include "ZorveApp/Observable.h"
 #include "ZorveApp/Textos.h"
-#include "ZorveCore/CatalogoDeTerminales.h"
+#include "ZorveCore/Terminales/MiradaDeTerminales.h"
 
 namespace zorve {
 
@@ -42,20 +42,17 @@ struct FalloDeAjustes {
 
 /// What the settings work with. The referenced objects outlive the model; `despachador` outlives its tasks.
 struct ColaboradoresDeAjustes {
-  CatalogoDeTerminales catalogo;
+  FuentesDeTerminales terminales;
   Preferencias& preferencias;
   InicioDeSesion& inicio;
   PreferenciaDeIdioma& idioma;
   Despachador& despachador;
   /// The packaged program's version; nothing when it runs from where it was built.
   std::optional<std::string> version;
-  /// Where the system's answer about its terminal comes from, asked in the background; nothing where there is
-  /// only one place.
-  std::function<std::optional<std::string>()> dichoPor = [] { return std::optional<std::string>{}; };
 };
 
-/// The state behind the settings window. Main thread only; the catalogue is asked in the background, since
-/// it may run programs.
+/// The state behind the settings window. Main thread only; terminals are looked at in the background, since
+/// that may run programs.
 class ModeloDeAjustes {
  public:
   explicit ModeloDeAjustes(ColaboradoresDeAjustes con);
@@ -93,10 +90,14 @@ class ModeloDeAjustes {
   [[nodiscard]] std::vector<Suscripcion> observar(std::function<void()> const& observador) const;
 
  private:
-  struct Carga;
+  /// What a load hands back; `numero` counts loads from 1.
+  struct Carga {
+    std::uint64_t numero = 0;
+    MiradaDeTerminales mirada;
+  };
   void empezarCarga(std::optional<FalloDeAjustes> reciente);
   void terminarCarga(Carga carga);
-  void escribirFalloDe(Carga const& carga);
+  void escribirFalloDe(MiradaDeTerminales const& mirada);
 
   ColaboradoresDeAjustes con_;
   Observable<SeccionDeAjustes> seccion_;

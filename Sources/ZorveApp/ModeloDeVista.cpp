@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <utility>
 
+#include "ZorveApp/TareaDeFondo.h"
+
 namespace zorve {
 
 namespace {
@@ -109,16 +111,14 @@ void ModeloDeVista::mover(int delta) {
 void ModeloDeVista::refrescar() {
   if (*refrescando_) return;
   refrescando_.escribir(true);
-  con_.despachador.enSegundoPlano([vida = std::weak_ptr{vida_}, &principal = con_.despachador,
-                                   cargar = con_.cargar, catalogo = con_.catalogo, regla = con_.regla] {
-    auto resultado = cargar();
-    TextosPlegados plegados{resultado.sesiones, regla};
-    auto carga =
-        std::make_shared<Carga>(Carga{std::move(resultado), std::move(plegados), resolverTerminal(catalogo)});
-    principal.enPrincipal([vida, carga = std::move(carga)] {
-      if (auto const modelo = vida.lock()) (*modelo)->terminarCarga(std::move(*carga));
-    });
-  });
+  enFondo(
+      con_.despachador, vida_,
+      [cargar = con_.cargar, fuentes = con_.servicios.fuentes, regla = con_.regla] {
+        auto resultado = cargar();
+        TextosPlegados plegados{resultado.sesiones, regla};
+        return Carga{std::move(resultado), std::move(plegados), mirar(fuentes).resuelta};
+      },
+      &ModeloDeVista::terminarCarga);
 }
 
 void ModeloDeVista::terminarCarga(Carga carga) {
@@ -137,25 +137,23 @@ void ModeloDeVista::terminarCarga(Carga carga) {
 void ModeloDeVista::abrirSeleccionada() {
   auto const* sesion = seleccionada();
   if (sesion == nullptr) return;
-  PeticionDeApertura peticion{*sesion, con_.catalogo, con_.ejecutor, con_.rutaPs, textos(), con_.anfitrionas};
+  PeticionDeApertura peticion{*sesion, con_.servicios, con_.ejecutor, textos()};
   error_.escribir(std::nullopt);
   aviso_.escribir(std::nullopt);
-  con_.despachador.enSegundoPlano(
-      [vida = std::weak_ptr{vida_}, &principal = con_.despachador, peticion = std::move(peticion)] {
-        auto resultado = abrirSesion(peticion);
-        principal.enPrincipal([vida, resultado = std::move(resultado)] {
-          if (auto const modelo = vida.lock()) (*modelo)->terminarApertura(resultado);
-        });
-      });
+  consejo_.escribir(std::nullopt);
+  enFondo(
+      con_.despachador, vida_, [peticion = std::move(peticion)] { return abrirSesion(peticion); },
+      &ModeloDeVista::terminarApertura);
 }
 
-void ModeloDeVista::terminarApertura(ResultadoDeApertura const& resultado) {
+void ModeloDeVista::terminarApertura(ResultadoDeApertura resultado) {
   if (resultado.terminal) {
-    terminal_.escribir(resultado.terminal);
+    terminal_.escribir(std::move(resultado.terminal));
     errorTerminal_.escribir(std::nullopt);
   }
-  if (resultado.aviso) aviso_.escribir(resultado.aviso);
-  if (resultado.error) error_.escribir(resultado.error);
+  if (resultado.aviso) aviso_.escribir(std::move(resultado.aviso));
+  if (resultado.consejo) consejo_.escribir(std::move(resultado.consejo));
+  if (resultado.error) error_.escribir(std::move(resultado.error));
 }
 
 void ModeloDeVista::copiarIdentificador() {
@@ -164,19 +162,12 @@ void ModeloDeVista::copiarIdentificador() {
   auto const valor = identificadorDe(*sesion);
   con_.portapapeles.copiar(valor);
   aviso_.escribir(textos().copiado(valor));
+  consejo_.escribir(std::nullopt);
 }
 
 std::vector<Suscripcion> ModeloDeVista::observar(std::function<void()> const& observador) const {
-  std::vector<Suscripcion> todas;
-  todas.push_back(resultado_.observar(observador));
-  todas.push_back(consulta_.observar(observador));
-  todas.push_back(seleccion_.observar(observador));
-  todas.push_back(error_.observar(observador));
-  todas.push_back(aviso_.observar(observador));
-  todas.push_back(refrescando_.observar(observador));
-  todas.push_back(terminal_.observar(observador));
-  todas.push_back(errorTerminal_.observar(observador));
-  return todas;
+  return observarTodas(observador, resultado_, consulta_, seleccion_, error_, aviso_, consejo_, refrescando_,
+                       terminal_, errorTerminal_);
 }
 
 }  // namespace zorve

@@ -23,14 +23,12 @@ namespace zorve {
 struct ColaboradoresDelModelo {
   /// Reads the sessions: `SessionIndex::construir` over the places the main chose. Called in the background.
   std::function<IndexResult()> cargar;
-  CatalogoDeTerminales catalogo;
+  ServiciosDeApertura servicios;
   Ejecutor const& ejecutor;
   Portapapeles& portapapeles;
   Despachador& despachador;
   PreferenciaDeIdioma const& idioma;
   ReglaDePlegado regla = ReglaDePlegado::general;
-  std::string rutaPs = "/bin/ps";
-  Anfitrionas anfitrionas = soloLasConocidas;
 };
 
 /// The state behind the panel. Main thread only; loading, resolving, planning and running happen in the
@@ -49,6 +47,8 @@ class ModeloDeVista {
   [[nodiscard]] Observable<std::optional<std::string>> const& seleccion() const { return seleccion_; }
   [[nodiscard]] Observable<std::optional<std::string>> const& errorDeApertura() const { return error_; }
   [[nodiscard]] Observable<std::optional<std::string>> const& avisoDeApertura() const { return aviso_; }
+  /// A second line after that one: what can be done about it.
+  [[nodiscard]] Observable<std::optional<std::string>> const& consejo() const { return consejo_; }
   [[nodiscard]] Observable<bool> const& refrescando() const { return refrescando_; }
   [[nodiscard]] Observable<std::optional<TerminalResuelta>> const& terminal() const { return terminal_; }
   [[nodiscard]] Observable<std::optional<std::string>> const& errorDeTerminal() const {
@@ -87,9 +87,9 @@ class ModeloDeVista {
 
  private:
   struct Carga;
-  [[nodiscard]] Textos textos() const { return Textos{*con_.idioma.idioma()}; }
+  [[nodiscard]] Textos textos() const { return textosDe(con_.idioma); }
   void terminarCarga(Carga carga);
-  void terminarApertura(ResultadoDeApertura const& resultado);
+  void terminarApertura(ResultadoDeApertura resultado);
   void ponerResultado(IndexResult nuevo, TextosPlegados plegados);
   void corregirSeleccion();
   void escribirSeleccion(std::optional<std::size_t> fila);
@@ -101,6 +101,7 @@ class ModeloDeVista {
   Observable<std::optional<std::string>> seleccion_;
   Observable<std::optional<std::string>> error_;
   Observable<std::optional<std::string>> aviso_;
+  Observable<std::optional<std::string>> consejo_;
   Observable<bool> refrescando_;
   Observable<std::optional<TerminalResuelta>> terminal_;
   Observable<std::optional<std::string>> errorTerminal_;

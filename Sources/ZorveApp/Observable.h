@@ -65,4 +65,14 @@ class Observable {
   mutable Observadores observadores_;
 };
 
+/// `observador` is called after each change of any of `propiedades`, until the subscriptions end.
+template <class... T>
+[[nodiscard]] std::vector<Suscripcion> observarTodas(std::function<void()> const& observador,
+                                                     Observable<T> const&... propiedades) {
+  std::vector<Suscripcion> todas;
+  todas.reserve(sizeof...(T));
+  (todas.push_back(propiedades.observar(observador)), ...);
+  return todas;
+}
+
 }  // namespace zorve

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "ZorveCore/Presentacion.h"
+#include "ZorveCore/Texto/Presentacion.h"
 
 namespace zorve {
 
@@ -42,7 +42,15 @@ PanelView::PanelView(ModeloDeVista& modelo, EstadoDelPanel const& estado, Prefer
       reloj_{std::move(reloj)},
       principal_{principal} {}
 
+std::vector<Suscripcion> PanelView::observar(std::function<void()> const& observador) const {
+  auto todas = modelo_.observar(observador);
+  todas.push_back(idioma_.idioma().observar(observador));
+  return todas;
+}
+
 void PanelView::aparecer() { modelo_.refrescar(); }
+
+void PanelView::escribirConsulta(std::string texto) { modelo_.escribirConsulta(std::move(texto)); }
 
 std::optional<std::string_view> PanelView::marcador() const {
   if (cantidadDeFilas() > 0) return std::nullopt;
@@ -84,17 +92,20 @@ std::vector<LineaDeBanda> PanelView::banda() const {
   if (*modelo_.avisoDeApertura()) {
     lineas.push_back({LineaDeBanda::Clase::aviso, **modelo_.avisoDeApertura()});
   }
+  if (*modelo_.consejo()) lineas.push_back({LineaDeBanda::Clase::aviso, **modelo_.consejo()});
   return lineas;
 }
 
 std::array<EntradaDeLeyenda, 3> PanelView::leyenda() const {
   using enum EntradaDeLeyenda::Simbolo;
   auto const t = textos();
-  return {{{flechas, "↑↓", t.atajoMover}, {retorno, "↩", t.atajoAbrir}, {refrescar, "⌘R", t.atajoRefrescar}}};
+  return {{{flechas, "↑↓", t.atajoMover},
+           {retorno, "↩", t.atajoAbrir},
+           {refrescar, t.atajo("R"), t.atajoRefrescar}}};
 }
 
 std::string PanelView::terminal() const { return modelo_.terminalParaElPie(); }
-std::string_view PanelView::ayudaAjustes() const { return textos().ayudaAjustes; }
+std::string PanelView::ayudaAjustes() const { return textos().ayudaAjustes; }
 std::string_view PanelView::nombreAjustes() const { return textos().ajustes; }
 
 bool PanelView::tecla(Pulsacion const& pulsacion) {

@@ -47,7 +47,7 @@ struct LineaDeBanda {
 struct EntradaDeLeyenda {
   enum class Simbolo : std::uint8_t { flechas, retorno, refrescar };
   Simbolo simbolo = Simbolo::flechas;
-  std::string_view tecla;
+  std::string tecla;
   std::string_view palabra;
   bool operator==(EntradaDeLeyenda const&) const = default;
 };
@@ -58,7 +58,8 @@ struct AccionesDelPanel {
   std::function<void()> salir = [] {};
 };
 
-/// The panel as values, made from the model at each call, and the way of keys and clicks to the model.
+/// The panel as values, made from the model at each call, and the way of keys, clicks and the search text to
+/// the model: a front end sees nothing else of it.
 /// Texts are in the language in force. Main thread only.
 class PanelView {
  public:
@@ -69,8 +70,16 @@ class PanelView {
 
   AccionesDelPanel acciones;
 
+  /// `observador` is called after each change of what the panel shows, the passing of time apart, until the
+  /// subscriptions end.
+  [[nodiscard]] std::vector<Suscripcion> observar(std::function<void()> const& observador) const;
+
   /// Called each time the panel comes up: loads. The search field takes the focus then.
   void aparecer();
+
+  /// The search field's text.
+  [[nodiscard]] std::string const& consulta() const { return *modelo_.consulta(); }
+  void escribirConsulta(std::string texto);
 
   /// Stands in place of the rows.
   [[nodiscard]] std::optional<std::string_view> marcador() const;
@@ -87,7 +96,7 @@ class PanelView {
   [[nodiscard]] std::array<EntradaDeLeyenda, 3> leyenda() const;
   [[nodiscard]] std::string terminal() const;
   /// The settings button's help text, and the name it has for assistive software.
-  [[nodiscard]] std::string_view ayudaAjustes() const;
+  [[nodiscard]] std::string ayudaAjustes() const;
   [[nodiscard]] std::string_view nombreAjustes() const;
 
   /// Gives whether the key was the panel's. Return is handled here alone: a search field that reports its
@@ -98,7 +107,7 @@ class PanelView {
   void clicEnAjustes();
 
  private:
-  [[nodiscard]] Textos textos() const { return Textos{*idioma_.idioma()}; }
+  [[nodiscard]] Textos textos() const { return textosDe(idioma_); }
   [[nodiscard]] Session const& sesion(std::size_t posicion) const;
   void hacer(AccionDelPanel accion);
 

@@ -46,7 +46,26 @@ std::string_view simbolo(SeccionDeAjustes seccion) {
 VistaAjustes::VistaAjustes(ModeloDeAjustes& modelo, PreferenciaDeIdioma const& idioma, Modificador principal)
     : modelo_{modelo}, idioma_{idioma}, principal_{principal} {}
 
-void VistaAjustes::aparecer() { modelo_.cargar(); }
+void VistaAjustes::ponerInterruptor(InterruptorDeVentanas& interruptor) {
+  interruptor_ = &interruptor;
+  // Which terminals can focus may follow it.
+  alCambiarElInterruptor_ = interruptor.estado().observar([this] { modelo_.cargar(); });
+}
+
+std::vector<Suscripcion> VistaAjustes::observar(std::function<void()> const& observador) const {
+  auto todas = modelo_.observar(observador);
+  todas.push_back(idioma_.idioma().observar(observador));
+  if (interruptor_ != nullptr) {
+    todas.push_back(interruptor_->estado().observar(observador));
+    todas.push_back(interruptor_->rechazo().observar(observador));
+  }
+  return todas;
+}
+
+void VistaAjustes::aparecer() {
+  modelo_.cargar();
+  if (interruptor_ != nullptr) interruptor_->mirar();
+}
 
 std::vector<FilaDeSeccion> VistaAjustes::secciones() const {
   std::vector<FilaDeSeccion> filas;
@@ -62,6 +81,9 @@ std::vector<FilaDeSeccion> VistaAjustes::secciones() const {
 void VistaAjustes::clicEnSeccion(SeccionDeAjustes seccion) { modelo_.escribirSeccion(seccion); }
 
 std::optional<std::string> VistaAjustes::banda() const {
+  if (interruptor_ != nullptr && *interruptor_->rechazo()) {
+    return TextosDelInterruptor::banda(**interruptor_->rechazo(), *idioma_.idioma());
+  }
   if (!*modelo_.fallo()) return std::nullopt;
   return (*modelo_.fallo())->banda(textos());
 }
@@ -84,11 +106,23 @@ ContenidoDeAjustes VistaAjustes::general() const {
 
 ContenidoDeAjustes VistaAjustes::terminal() const {
   if (modelo_.instaladas()->empty()) {
-    return {.texto = *modelo_.cargado() ? textos().sinTerminalCompatible : std::string_view{}};
+    return {.grupos = {}, .texto = *modelo_.cargado() ? textos().sinTerminalCompatible : std::string{}};
   }
   Grupo columna{{}, {opcionAutomatica()}};
   for (auto const& instalada : *modelo_.instaladas()) columna.opciones.push_back(opcionDe(*instalada));
-  return {.grupos = {std::move(columna)}};
+  ContenidoDeAjustes contenido{.grupos = {std::move(columna)}};
+  bool const hay = interruptor_ != nullptr && *interruptor_->estado();
+  if (hay) contenido.grupos.push_back({{}, {opcionDelInterruptor()}});
+  return contenido;
+}
+
+Opcion VistaAjustes::opcionDelInterruptor() const {
+  auto const estado = **interruptor_->estado();
+  return {.marcada = estado == InterruptorDeVentanas::Estado::encendido,
+          .titulo = std::string{TextosDelInterruptor::titulo(*idioma_.idioma())},
+          .nota = std::string{TextosDelInterruptor::nota(estado, *idioma_.idioma())},
+          .cuadro = true,
+          .accion = [interruptor = interruptor_] { interruptor->alternar(); }};
 }
 
 Opcion VistaAjustes::opcionAutomatica() const {

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "ZorveApp/InterruptorDeVentanas.h"
 #include "ZorveApp/ModeloDeAjustes.h"
 #include "ZorveApp/Teclado.h"
 
@@ -43,13 +44,13 @@ struct Grupo {
 /// The content of the chosen section: `texto` stands alone where there is nothing to choose.
 struct ContenidoDeAjustes {
   std::vector<Grupo> grupos;
-  std::string_view texto;
+  std::string texto;
 };
 
 /// The lines of the about section, and the mark above them.
 struct AcercaDe {
   std::string nombreYVersion;
-  std::string_view paraCerrar;
+  std::string paraCerrar;
 };
 
 /// What the settings window asks of the application that holds it.
@@ -58,8 +59,8 @@ struct AccionesDeLaVentana {
   std::function<void()> salir = [] {};
 };
 
-/// The settings window as values, made from the model at each call. Texts are in the language in force.
-/// Main thread only.
+/// The settings window as values, made from the model at each call, and the way of keys and clicks to the
+/// model: a front end sees nothing else of it. Texts are in the language in force. Main thread only.
 class VistaAjustes {
  public:
   static constexpr std::string_view tituloDeLaVentana = "Zorve";
@@ -69,28 +70,41 @@ class VistaAjustes {
 
   AccionesDeLaVentana acciones;
 
+  /// The desktop has a switch for bringing windows to the front: a row of the terminal section from now on.
+  /// It outlives the view.
+  void ponerInterruptor(InterruptorDeVentanas& interruptor);
+  /// `observador` is called after each change of what the window shows, until the subscriptions end.
+  [[nodiscard]] std::vector<Suscripcion> observar(std::function<void()> const& observador) const;
+
   /// Called each time the window comes up.
   void aparecer();
 
   [[nodiscard]] std::vector<FilaDeSeccion> secciones() const;
+  /// The one whose content is shown.
+  [[nodiscard]] SeccionDeAjustes seccion() const { return *modelo_.seccion(); }
   void clicEnSeccion(SeccionDeAjustes seccion);
   /// The failure band above the content; nothing takes no space.
   [[nodiscard]] std::optional<std::string> banda() const;
   [[nodiscard]] ContenidoDeAjustes general() const;
   [[nodiscard]] ContenidoDeAjustes terminal() const;
+  /// Who says which is the system's terminal, where that one would be used and more than one could say so.
+  [[nodiscard]] std::optional<std::string> const& dichoPor() const { return *modelo_.dichoPor(); }
   [[nodiscard]] AcercaDe acercaDe() const;
 
   /// Gives whether the key was the window's.
   bool tecla(Pulsacion const& pulsacion);
 
  private:
-  [[nodiscard]] Textos textos() const { return Textos{*idioma_.idioma()}; }
+  [[nodiscard]] Textos textos() const { return textosDe(idioma_); }
   [[nodiscard]] Opcion opcionAutomatica() const;
   [[nodiscard]] Opcion opcionDe(Terminal const& terminal) const;
+  [[nodiscard]] Opcion opcionDelInterruptor() const;
 
   ModeloDeAjustes& modelo_;
   PreferenciaDeIdioma const& idioma_;
   Modificador principal_;
+  InterruptorDeVentanas* interruptor_ = nullptr;
+  Suscripcion alCambiarElInterruptor_;
 };
 
 }  // namespace zorve

@@ -2,11 +2,16 @@
 
 namespace zorve {
 
-std::optional<std::string> textoGuardado(Preferencias const& preferencias, std::string const& clave) {
+std::expected<std::optional<std::string>, IndexError> leerTexto(Preferencias const& preferencias,
+                                                                std::string const& clave) {
   auto const valor = preferencias.leer(clave);
-  if (!valor || !*valor) return std::nullopt;
-  auto const* texto = std::get_if<std::string>(&**valor);
+  if (!valor) return std::unexpected{valor.error()};
+  auto const* texto = *valor ? std::get_if<std::string>(&**valor) : nullptr;
   return texto == nullptr ? std::nullopt : std::optional{*texto};
+}
+
+std::optional<std::string> textoGuardado(Preferencias const& preferencias, std::string const& clave) {
+  return leerTexto(preferencias, clave).value_or(std::nullopt);
 }
 
 }  // namespace zorve

@@ -28,7 +28,11 @@ class Preferencias {
   [[nodiscard]] virtual std::expected<void, IndexError> quitar(std::string const& clave) = 0;
 };
 
-/// The text under `clave`; nothing when absent, not a text, or unreadable.
+/// The text under `clave`, or nothing when absent or not a text.
+[[nodiscard]] std::expected<std::optional<std::string>, IndexError> leerTexto(
+    Preferencias const& preferencias, std::string const& clave);
+
+/// The same; nothing when unreadable too.
 [[nodiscard]] std::optional<std::string> textoGuardado(Preferencias const& preferencias,
                                                        std::string const& clave);
 

@@ -4,35 +4,31 @@
 #include <string>
 #include <vector>
 
-#include "ZorveCore/Anfitrionas.h"
-#include "ZorveCore/AplicacionesInstaladas.h"
-#include "ZorveCore/CatalogoDeTerminales.h"
-#include "ZorveCore/ManejadorDelSistema.h"
 #include "ZorveCore/Preferencias.h"
+#include "ZorveCore/Terminales/AplicacionesInstaladas.h"
+#include "ZorveCore/Terminales/ManejadorDelSistema.h"
+#include "ZorveCore/Terminales/ServiciosDeApertura.h"
 
 namespace zorve {
 
-/// What this system has for opening terminals. The objects live as long as this record; so must whoever holds
-/// a terminal or a catalogue made from it.
+/// What this system has for opening terminals, the same for every main. The objects live as long as this
+/// record; so must whoever holds a terminal or `apertura`, which refer to them.
 struct ServiciosDeTerminal {
   std::unique_ptr<AplicacionesInstaladas> aplicaciones;
   std::unique_ptr<ManejadorDelSistema> manejador;
   std::unique_ptr<Preferencias> preferencias;
-  /// The process-status tool.
-  std::string rutaPs;
-  /// This system's terminals, in their order.
-  std::vector<TerminalRef> propias;
-  /// Those of the other system: they can plan, but are never installed here.
+  /// Over this system's terminals, in their order.
+  ServiciosDeApertura apertura;
+  /// The terminals of the other system: they can plan, but are never installed here.
   std::vector<TerminalRef> ajenas;
-  /// Which of this system's may host a running session.
-  Anfitrionas anfitrionas = soloLasConocidas;
 
-  [[nodiscard]] CatalogoDeTerminales catalogo() const {
-    return catalogoDelSistema(propias, *manejador, *preferencias);
-  }
+  [[nodiscard]] std::vector<TerminalRef> const& propias() const { return apertura.fuentes.conocidas; }
 };
 
 /// For the user whose home directory is `home`. Each system has its own. Call it before other threads run.
 [[nodiscard]] ServiciosDeTerminal serviciosDeTerminal(std::string const& home);
+
+/// In which this system's people are spoken to.
+[[nodiscard]] VocesDelSistema vocesDeAqui();
 
 }  // namespace zorve

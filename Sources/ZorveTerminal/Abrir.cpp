@@ -1,42 +1,22 @@
 #include "ZorveTerminal/Abrir.h"
 
-#include <unistd.h>
+#include <algorithm>
+#include <iterator>
 
-#include <cstdlib>
-
-#include "ZorveCore/Escape.h"
+#include "ZorveCore/Texto/Escape.h"
+#include "ZorveCore/Texto/Unir.h"
 #include "ZorvePlatform/Linux/AplicacionesLinux.h"
 #include "ZorvePlatform/Linux/EntornoLinux.h"
 #include "ZorvePlatform/Posix/Hogar.h"
+#include "ZorveTerminal/CarpetaDePaso.h"
 #include "ZorveTerminal/Entorno.h"
-#include "ZorveTerminal/GuionDeShell.h"
+#include "ZorveTerminal/PalabrasDelGuion.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
 constexpr std::chrono::milliseconds plazoDelArranque{2500};
-
-/// An empty directory of its own; whoever finds it removes it.
-class Senal {
- public:
-  explicit Senal(std::string const& carpeta) {
-    for (auto const& lugar : {carpeta, std::string{"/tmp"}}) {
-      std::string plantilla = lugar + "/zorve-XXXXXX";
-      if (!ruta_.empty() || !lugar.starts_with('/')) continue;
-      if (::mkdtemp(plantilla.data()) != nullptr) ruta_ = plantilla;
-    }
-  }
-  Senal(Senal const&) = delete;
-  Senal& operator=(Senal const&) = delete;
-  ~Senal() {
-    if (!ruta_.empty()) ::rmdir(ruta_.c_str());
-  }
-  [[nodiscard]] std::string const& ruta() const { return ruta_; }
-
- private:
-  std::string ruta_;
-};
 
 /// A window in a process of the terminal that waits for such. False when there is none.
 bool abrirEnLaQueHay(FichaDeTerminal const& ficha, EntornoLinux const& lugares,
@@ -49,6 +29,12 @@ bool abrirEnLaQueHay(FichaDeTerminal const& ficha, EntornoLinux const& lugares,
   return lanzar(lanzamiento, plazoDelArranque).has_value();
 }
 
+std::unexpected<FinTemprano> sinCarpeta(LugarDePaso const& lugar) {
+  return std::unexpected{
+      FinTemprano{1, "nothing can be written below " + lugar.carpeta +
+                         ", which hands the command over to the terminal; make room there"}};
+}
+
 }  // namespace
 
 std::vector<std::string> argumentosDe(FichaDeTerminal const& ficha,
@@ -58,9 +44,9 @@ std::vector<std::string> argumentosDe(FichaDeTerminal const& ficha,
     args.insert(args.end(), palabras.begin(), palabras.end());
     return args;
   }
-  std::string texto;
-  for (auto const& palabra : palabras) texto += (texto.empty() ? "" : " ") + palabraDeShell(palabra);
-  args.push_back(texto);
+  std::vector<std::string> citadas;
+  std::ranges::transform(palabras, std::back_inserter(citadas), palabraDeShell);
+  args.push_back(unidos(citadas, " "));
   return args;
 }
 
@@ -70,16 +56,21 @@ std::expected<void, FinTemprano> abrir(FichaDeTerminal const& ficha, std::string
   auto const lugares = EntornoLinux::delProceso(casa);
   auto const programa = programaDe(ficha, lugares);
   if (programa.empty()) return std::unexpected{FinTemprano{127, ficha.nombre + " is not installed"}};
-  Senal const senal{valorEn(entorno, "XDG_RUNTIME_DIR")};
-  auto const palabras = palabrasDelGuion(
-      {directorio, comando, shellDeLaPersona(entorno), valorEn(entorno, "HOME"), senal.ruta()});
-  Lanzamiento lanzamiento{.ejecutable = programa,
-                          .args = argumentosDe(ficha, palabras),
-                          .entorno = entornoLimpio(entorno),
-                          .directorio = casa,
-                          .senal = senal.ruta()};
-  if (abrirEnLaQueHay(ficha, lugares, palabras, lanzamiento)) return {};
-  return lanzar(lanzamiento, plazoDelArranque);
+  auto const lugar = lugarDePaso(valorEn(entorno, "XDG_RUNTIME_DIR"), casa);
+  CarpetaDePaso carpeta{lugar};
+  auto const palabras =
+      palabrasDelGuion({directorio, comando, shellDeLaPersona(entorno), casa}, carpeta, lugar);
+  if (palabras.empty()) return sinCarpeta(lugar);
+  Lanzamiento const lanzamiento{.ejecutable = programa,
+                                .args = argumentosDe(ficha, palabras),
+                                .entorno = entornoLimpio(entorno),
+                                .directorio = casa,
+                                .senal = senalEn(carpeta)};
+  auto const abierta = abrirEnLaQueHay(ficha, lugares, palabras, lanzamiento)
+                           ? std::expected<void, FinTemprano>{}
+                           : lanzar(lanzamiento, plazoDelArranque);
+  if (abierta) carpeta.dejar();
+  return abierta;
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -4,10 +4,10 @@
 #include <span>
 #include <string>
 
-#include "ZorveCore/FichaDeTerminal.h"
+#include "ZorveCore/Terminales/FichaDeTerminal.h"
 #include "ZorveTerminal/Lanzamiento.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 /// Opens a window of the terminal in `directorio` that runs the shell command line `comando` in the
 /// person's shell, which stays afterwards. Returns when the shell has started, at the latest after 2.5 s.
@@ -21,4 +21,4 @@ namespace zorve {
 [[nodiscard]] std::vector<std::string> argumentosDe(FichaDeTerminal const& ficha,
                                                     std::vector<std::string> const& palabras);
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -7,8 +7,9 @@
 #include <utility>
 
 #include "ZorvePlatform/Posix/Variable.h"
+#include "ZorveTerminal/NodosNumerados.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -55,6 +56,11 @@ class Escritor {
       for (auto const& uno : valores) (*this)(uno);
     });
   }
+  void operator()(std::vector<std::uint32_t> const& valores) {
+    dentro(DBUS_TYPE_ARRAY, DBUS_TYPE_UINT32_AS_STRING, [&] {
+      for (auto const uno : valores) (*this)(uno);
+    });
+  }
   void operator()(Variante const& variante) {
     dentro(DBUS_TYPE_VARIANT, firma(variante.valor), [&] { std::visit(*this, variante.valor); });
   }
@@ -65,6 +71,14 @@ class Escritor {
   }
   void operator()(SinOpciones /*ninguna*/) {
     dentro(DBUS_TYPE_ARRAY, "{sv}", [] {});
+  }
+  void operator()(Opcion const& opcion) {
+    dentro(DBUS_TYPE_ARRAY, "{sv}", [&] {
+      dentro(DBUS_TYPE_DICT_ENTRY, nullptr, [&] {
+        (*this)(opcion.nombre);
+        (*this)(Variante{opcion.valor});
+      });
+    });
   }
 
  private:
@@ -127,8 +141,9 @@ void leer(DBusMessageIter donde, std::vector<DatoDeRespuesta>& datos) {
   }
 }
 
-bool esPara(Metodo const& metodo, DBusMessage* llamada) {
-  return dbus_message_is_method_call(llamada, metodo.interfaz.c_str(), metodo.nombre.c_str()) != 0 &&
+bool esPara(Metodo const& metodo, std::string const& quien, DBusMessage* llamada) {
+  return !quien.empty() && dbus_message_has_sender(llamada, quien.c_str()) != 0 &&
+         dbus_message_is_method_call(llamada, metodo.interfaz.c_str(), metodo.nombre.c_str()) != 0 &&
          dbus_message_has_path(llamada, metodo.objeto.c_str()) != 0;
 }
 
@@ -195,13 +210,14 @@ std::string Bus::nombre() const {
   return suyo != nullptr ? suyo : "";
 }
 
-std::optional<std::string> Bus::recibir(Metodo const& nuestro, std::chrono::milliseconds plazo) const {
+std::optional<std::string> Bus::recibir(Metodo const& nuestro, std::chrono::milliseconds plazo,
+                                        std::string const& quien) const {
   using Reloj = std::chrono::steady_clock;
   auto const limite = Reloj::now() + plazo;
   while (abierto()) {
     for (Mensaje mensaje{dbus_connection_pop_message(conexion_->bus)}; mensaje;
          mensaje.reset(dbus_connection_pop_message(conexion_->bus))) {
-      if (!esPara(nuestro, mensaje.get())) continue;
+      if (!esPara(nuestro, quien, mensaje.get())) continue;
       std::vector<DatoDeRespuesta> datos;
       DBusMessageIter donde;
       if (dbus_message_iter_init(mensaje.get(), &donde) != 0) leer(donde, datos);
@@ -212,6 +228,16 @@ std::optional<std::string> Bus::recibir(Metodo const& nuestro, std::chrono::mill
     if (resto <= 0 || dbus_connection_read_write(conexion_->bus, static_cast<int>(resto)) == 0) break;
   }
   return std::nullopt;
+}
+
+std::string Bus::duenoDe(std::string const& servicio) const {
+  if (dbus_validate_bus_name(servicio.c_str(), nullptr) == 0) return {};
+  std::vector<Argumento> const argumentos{servicio};
+  auto const respuesta =
+      llamar({DBUS_SERVICE_DBUS, DBUS_PATH_DBUS, DBUS_INTERFACE_DBUS, "GetNameOwner"}, argumentos);
+  auto const* const dueno =
+      respuesta && !respuesta->empty() ? std::get_if<std::string>(&respuesta->front()) : nullptr;
+  return dueno != nullptr ? *dueno : std::string{};
 }
 
 pid_t Bus::procesoDe(std::string const& servicio) const {
@@ -233,4 +259,4 @@ std::expected<std::vector<std::uint32_t>, FalloDeBus> Bus::numerados(std::string
   return texto != nullptr ? nodosNumerados(*texto, prefijo) : std::vector<std::uint32_t>{};
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -13,7 +13,7 @@
 
 #include <sys/types.h>
 
-namespace zorve {
+namespace zorve::ayudante {
 
 /// What a D-Bus message holds, as far as terminals need it.
 using DatoSimple = std::variant<std::int32_t, std::uint32_t, std::string>;
@@ -27,9 +27,14 @@ struct Variantes {
 };
 /// An empty dictionary: "a{sv}".
 struct SinOpciones {};
+/// A dictionary of one text: "a{sv}".
+struct Opcion {
+  std::string nombre;
+  std::string valor;
+};
 /// One argument of a call.
-using Argumento = std::variant<std::int32_t, std::uint32_t, std::string, std::vector<std::string>, Variante,
-                               Variantes, SinOpciones>;
+using Argumento = std::variant<std::int32_t, std::uint32_t, std::string, std::vector<std::string>,
+                               std::vector<std::uint32_t>, Variante, Variantes, SinOpciones, Opcion>;
 
 /// A method of an object.
 struct Metodo {
@@ -61,10 +66,12 @@ class Bus {
                                  std::chrono::milliseconds plazo = std::chrono::milliseconds{2500}) const;
   /// This connection's own name on the bus.
   [[nodiscard]] std::string nombre() const;
-  /// Waits until somebody calls that method of ours (its service is `nombre`), and gives the call's first
-  /// text. Calls of other methods and objects that come meanwhile are passed over.
-  [[nodiscard]] std::optional<std::string> recibir(Metodo const& nuestro,
-                                                   std::chrono::milliseconds plazo) const;
+  /// Waits until the connection `quien` (its own name on the bus) calls that method of ours (its service is
+  /// `nombre`), and gives the call's first text. All other calls that come meanwhile are passed over.
+  [[nodiscard]] std::optional<std::string> recibir(Metodo const& nuestro, std::chrono::milliseconds plazo,
+                                                   std::string const& quien) const;
+  /// The own name of the connection behind a name on the bus, or the empty text.
+  [[nodiscard]] std::string duenoDe(std::string const& servicio) const;
   /// The process behind a name on the bus, or 0.
   [[nodiscard]] pid_t procesoDe(std::string const& servicio) const;
   /// The numbers of the objects directly below `objeto` that are named `prefijo` and a number, ascending.
@@ -76,8 +83,4 @@ class Bus {
   std::unique_ptr<Conexion> conexion_;
 };
 
-/// The same from the text of an object's introspection.
-[[nodiscard]] std::vector<std::uint32_t> nodosNumerados(std::string_view introspeccion,
-                                                        std::string_view prefijo);
-
-}  // namespace zorve
+}  // namespace zorve::ayudante

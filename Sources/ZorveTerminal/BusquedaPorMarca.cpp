@@ -7,7 +7,7 @@
 #include "ZorveTerminal/FrasesDeEnfoque.h"
 #include "ZorveTerminal/MarcaDeTitulo.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -17,6 +17,8 @@ using Marcada = std::expected<std::uint64_t, std::string>;
 
 constexpr auto plazoDeLaBusqueda = 4000ms;
 constexpr auto plazoALaVista = 600ms;
+/// Where nothing more can be tried, a busy desktop may still show it.
+constexpr std::chrono::milliseconds plazoDeLosLentos{1500};
 constexpr auto plazoPorPestana = 300ms;
 constexpr auto plazoPorVentana = 700ms;
 constexpr auto entreMiradas = 15ms;
@@ -52,7 +54,8 @@ class Busqueda {
       if (auto hallada = laMarcada(plazoPorPestana)) return hallada;
     }
     pestanas.volver();
-    return std::unexpected{fraseVarias(ficha_, sesion_.tty)};
+    auto const resto = std::chrono::duration_cast<std::chrono::milliseconds>(limite_ - Reloj::now());
+    return laMarcada(std::min(resto, plazoDeLosLentos));
   }
 
   [[nodiscard]] Marcada porVentanas(Pestanas& pestanas) const {
@@ -84,10 +87,10 @@ std::expected<std::uint64_t, std::string> buscarPorMarca(FichaDeTerminal const& 
   if (!marca) return std::unexpected{marca.error()};
   Busqueda const busqueda{ficha, sesion, ventanas, *marca};
   auto hallada = busqueda.laMarcada(plazoALaVista);
-  if (hallada || pestanas == nullptr) return hallada;
-  if (intento == Intento::porPestanas) return busqueda.porPestanas(*pestanas);
-  if (intento == Intento::porVentanas) return busqueda.porVentanas(*pestanas);
-  return hallada;
+  if (hallada) return hallada;
+  if (pestanas != nullptr && intento == Intento::porPestanas) return busqueda.porPestanas(*pestanas);
+  if (pestanas != nullptr && intento == Intento::porVentanas) return busqueda.porVentanas(*pestanas);
+  return busqueda.laMarcada(plazoDeLosLentos);
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

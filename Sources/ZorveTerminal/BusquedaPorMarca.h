@@ -5,12 +5,12 @@
 #include <expected>
 #include <string>
 
-#include "ZorveCore/FichaDeTerminal.h"
+#include "ZorveCore/Terminales/FichaDeTerminal.h"
 #include "ZorveTerminal/Pestanas.h"
 #include "ZorveTerminal/SesionEnTty.h"
 #include "ZorveTerminal/Ventanas.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 /// What may be tried where the mark shows nowhere at first.
 enum class Intento : std::uint8_t {
@@ -29,4 +29,4 @@ enum class Intento : std::uint8_t {
                                                                        Ventanas const& ventanas,
                                                                        Pestanas* pestanas, Intento intento);
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace zorve {
+namespace zorve::ayudante {
 
 std::vector<Ventana> delMasCercano(std::span<Ventana const> ventanas, std::span<pid_t const> ascendencia) {
   std::vector<Ventana> suyas;
@@ -28,4 +28,4 @@ std::expected<std::uint64_t, SinVentana> ventanaDe(std::span<Ventana const> vent
   return suyas.front().id;
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -7,7 +7,7 @@
 
 #include "ZorveTerminal/Ventanas.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 /// Why a window was not chosen.
 enum class SinVentana : std::uint8_t { ninguna, varias };
@@ -23,4 +23,4 @@ enum class SinVentana : std::uint8_t { ninguna, varias };
                                                                  std::span<pid_t const> ascendencia,
                                                                  std::uint64_t propia);
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -11,7 +11,7 @@
 #include <iterator>
 #include <utility>
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -42,7 +42,8 @@ Descriptor conectarA(std::string_view nombre, std::chrono::milliseconds plazo) {
 pid_t quienEscucha(Descriptor const& enchufe) {
   ucred quien{};
   socklen_t largo = sizeof quien;
-  return ::getsockopt(enchufe.numero(), SOL_SOCKET, SO_PEERCRED, &quien, &largo) == 0 ? quien.pid : 0;
+  bool const sabido = ::getsockopt(enchufe.numero(), SOL_SOCKET, SO_PEERCRED, &quien, &largo) == 0;
+  return sabido && quien.uid == ::geteuid() ? quien.pid : 0;
 }
 
 bool escribirTodo(Descriptor const& enchufe, std::string_view texto) {
@@ -65,4 +66,4 @@ bool leerTodo(Descriptor const& enchufe, std::span<char> destino) {
   return true;
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -9,19 +9,21 @@
 #include <variant>
 #include <vector>
 
-#include "ZorveCore/Escape.h"
-#include "ZorveCore/TerminalDeLinux.h"
-#include "ZorveCore/TextoVisible.h"
+#include "ZorveCore/Terminales/Anfitriona.h"
+#include "ZorveCore/Terminales/AnfitrionaTmux.h"
+#include "ZorveCore/Terminales/TerminalDeLinux.h"
+#include "ZorveCore/Texto/Escape.h"
+#include "ZorveCore/Texto/TextoVisible.h"
 #include "ZorvePlatform/Linux/EntornoLinux.h"
-#include "ZorvePlatform/Linux/SesionGraficaLinux.h"
 #include "ZorvePlatform/Posix/Hogar.h"
 #include "ZorveTerminal/Abrir.h"
 #include "ZorveTerminal/Enfocar.h"
 #include "ZorveTerminal/Entorno.h"
-#include "ZorveTerminal/ProcesosDelTty.h"
+#include "ZorveTerminal/SesionEnTty.h"
 #include "ZorveTerminal/Tmux.h"
+#include "ZorveTerminal/VentanasDeGnome.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -33,23 +35,21 @@ constexpr int nivelesComoMucho = 4;
 constexpr int vecesQueSeEspera = 30;
 constexpr std::chrono::milliseconds entreVistazos{50};
 
-constexpr char const* nombreDelServidor = "tmux: server";
-
 /// Whoever shows a client: a terminal, or a pane of another server.
 struct OtroTmux {};
 using Anfitriona = std::variant<std::monostate, FichaDeTerminal const*, OtroTmux>;
 
-bool puedeEnfocarse(FichaDeTerminal const& ficha) { return seEnfocaEn(ficha, sesionGraficaDelProceso()); }
+bool puedeEnfocarse(FichaDeTerminal const& ficha) { return seEnfocaEn(ficha, sesionDeAhora()); }
 
 /// A server is the parent of whatever leads one of its panes. Farther up it says nothing: a terminal that was
 /// started from a pane is no pane.
 Anfitriona anfitrionaDe(std::string const& tty) {
   auto const lider = liderDelTty(tty);
   if (!lider) return {};
-  if (nombreDelProceso(lider->padre) == nombreDelServidor) return OtroTmux{};
+  if (nombreDelProceso(lider->padre) == procesoDelServidorDeTmux) return OtroTmux{};
   for (auto const pid : ascendencia(*lider)) {
     auto const nombre = nombreDelProceso(pid);
-    if (nombre == nombreDelServidor) return {};
+    if (nombre == procesoDelServidorDeTmux) return {};
     auto const ficha = std::ranges::find_if(
         fichasDeLinux(), [&](FichaDeTerminal const& una) { return esProcesoDe(una, nombre); });
     if (ficha != fichasDeLinux().end()) {
@@ -77,8 +77,7 @@ std::string enchufeDeCostumbre(std::span<std::string const> entorno) {
 }
 
 std::unexpected<std::string> noEsta(std::string const& tty) {
-  return std::unexpected{"Zorve found no tmux session on " + visible(tty) +
-                         ". The Claude session is still alive, but its window no longer exists."};
+  return std::unexpected{sesionNoHallada("tmux", visible(tty))};
 }
 
 std::unexpected<std::string> sinVentanaAqui(ServidorDeTmux const& servidor, std::string const& tty,
@@ -97,7 +96,7 @@ class Enfoque {
         entorno_{entorno},
         programa_{ejecutableEn(EntornoLinux::delProceso(hogarDelUsuario().value_or("/")), "tmux")} {}
 
-  [[nodiscard]] Hecho pane(std::string const& tty, int nivel) const;
+  [[nodiscard]] Hecho pane(std::string const& tty, int nivel, std::optional<pid_t> deQuien = {}) const;
 
  private:
   /// No server shows it: a terminal that none of ours hosts was started from a pane. The chosen one tries.
@@ -114,8 +113,8 @@ class Enfoque {
   std::string programa_;
 };
 
-Hecho Enfoque::pane(std::string const& tty, int nivel) const {
-  auto const lider = liderDelTty(tty);
+Hecho Enfoque::pane(std::string const& tty, int nivel, std::optional<pid_t> deQuien) const {
+  auto const lider = liderDelTty(tty, deQuien);
   if (!lider) return noEsta(tty);
   auto const escrito = variableDelProceso(lider->pid, "TMUX");
   auto const enchufe = enchufePropio(escrito.empty() ? enchufeDeCostumbre(entorno_) : escrito);
@@ -138,7 +137,7 @@ Hecho Enfoque::pane(std::string const& tty, int nivel) const {
 }
 
 Hecho Enfoque::fueraDeTmux(std::string const& tty, Proceso const& lider) const {
-  bool const esPane = nombreDelProceso(lider.padre) == nombreDelServidor;
+  bool const esPane = nombreDelProceso(lider.padre) == procesoDelServidorDeTmux;
   if (esPane || elegida_ == nullptr || !puedeEnfocarse(*elegida_)) return noEsta(tty);
   return enfocar(*elegida_, tty);
 }
@@ -186,8 +185,8 @@ Hecho Enfoque::enVentanaNueva(ServidorDeTmux const& servidor, std::string const&
 }  // namespace
 
 Hecho enfocarEnTmux(std::string const& tty, FichaDeTerminal const* elegida,
-                    std::span<std::string const> entorno) {
-  return Enfoque{elegida, entorno}.pane(tty, 1);
+                    std::span<std::string const> entorno, std::optional<pid_t> deQuien) {
+  return Enfoque{elegida, entorno}.pane(tty, 1, deQuien);
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -9,7 +9,7 @@
 
 #include "ZorvePlatform/Linux/EntornoLinux.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -27,10 +27,6 @@ bool esAjena(std::string_view nombre) {
   return std::ranges::any_of(ajenas, [nombre](std::string_view ajena) {
     return ajena.ends_with('*') ? nombre.starts_with(ajena.substr(0, ajena.size() - 1)) : nombre == ajena;
   });
-}
-
-bool esEjecutable(std::string const& ruta) {
-  return ruta.starts_with('/') && !ejecutableEn(EntornoLinux{}, ruta).empty();
 }
 
 }  // namespace
@@ -58,4 +54,4 @@ std::string shellDeLaPersona(std::span<std::string const> entorno) {
   return "/bin/sh";
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace zorve {
+namespace zorve::ayudante {
 
 /// The variables ("NAME=value") of `entorno` without those that tell a process in which window, tab or
 /// multiplexer it runs: a new window is none of them.
@@ -17,4 +17,4 @@ namespace zorve {
 /// can be run.
 [[nodiscard]] std::string shellDeLaPersona(std::span<std::string const> entorno);
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

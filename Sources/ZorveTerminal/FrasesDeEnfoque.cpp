@@ -1,13 +1,13 @@
 #include "ZorveTerminal/FrasesDeEnfoque.h"
 
-#include "ZorveCore/Escape.h"
-#include "ZorveCore/TextoVisible.h"
+#include "ZorveCore/Terminales/Anfitriona.h"
+#include "ZorveCore/Texto/Escape.h"
+#include "ZorveCore/Texto/TextoVisible.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 std::string fraseNoEsta(FichaDeTerminal const& ficha, std::string const& tty) {
-  return "Zorve found no " + ficha.nombre + " session on " + textoVisible(ttyCorto(tty)) +
-         ". The Claude session is still alive, but its window no longer exists.";
+  return sesionNoHallada(ficha.nombre, textoVisible(ttyCorto(tty)));
 }
 
 std::string fraseVarias(FichaDeTerminal const& ficha, std::string const& tty) {
@@ -24,4 +24,16 @@ std::string fraseNoVino(FichaDeTerminal const& ficha) {
   return "the window manager did not bring the " + ficha.nombre + " window to the front";
 }
 
-}  // namespace zorve
+std::string fraseSinExtension(FichaDeTerminal const& ficha, std::string const& tty) {
+  return "GNOME brings the " + ficha.nombre + " window of " + textoVisible(ttyCorto(tty)) +
+         " to the front only through Zorve's extension of it, which is off. Switch it on in Zorve's "
+         "settings, "
+         "section Terminal.";
+}
+
+std::string fraseVariasSinExtension(FichaDeTerminal const& ficha, std::string const& tty) {
+  return fraseVarias(ficha, tty) +
+         " Zorve's GNOME extension would tell: switch it on in Zorve's settings, section Terminal.";
+}
+
+}  // namespace zorve::ayudante

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "ZorveCore/FichaDeTerminal.h"
+#include "ZorveCore/Terminales/FichaDeTerminal.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 /// Sentences for a person about the session on `tty` (with or without "/dev/").
 
@@ -16,5 +16,9 @@ namespace zorve {
 [[nodiscard]] std::string fraseNoContesta(FichaDeTerminal const& ficha, std::string const& tty);
 /// Its window was found, but the keyboard did not follow.
 [[nodiscard]] std::string fraseNoVino(FichaDeTerminal const& ficha);
+/// GNOME's compositor without our extension: nothing else brings that terminal's windows to the front, or
+/// nothing tells which of several it is.
+[[nodiscard]] std::string fraseSinExtension(FichaDeTerminal const& ficha, std::string const& tty);
+[[nodiscard]] std::string fraseVariasSinExtension(FichaDeTerminal const& ficha, std::string const& tty);
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

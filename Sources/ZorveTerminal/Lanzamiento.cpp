@@ -1,5 +1,6 @@
 #include "ZorveTerminal/Lanzamiento.h"
 
+#include <fcntl.h>
 #include <poll.h>
 #include <sys/inotify.h>
 #include <sys/mman.h>
@@ -14,12 +15,13 @@
 #include <cstring>
 #include <system_error>
 
-#include "ZorveCore/Archivos.h"
-#include "ZorveCore/Texto.h"
+#include "ZorveCore/Lectura/Archivos.h"
+#include "ZorveCore/Texto/Texto.h"
+#include "ZorveCore/Texto/Unir.h"
 #include "ZorvePlatform/Posix/Descriptor.h"
 #include "ZorvePlatform/Posix/ProcesoHijo.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -32,19 +34,6 @@ std::string dondeEmpieza(std::string const& directorio) {
   return ::access(directorio.c_str(), X_OK) == 0 ? directorio : "/";
 }
 
-/// Starts the program with both streams in `salida`; gives 0 and the pid, or an errno value.
-int empezar(Lanzamiento const& lanzamiento, int salida, pid_t& pid) {
-  auto palabras = lanzamiento.args;
-  palabras.insert(palabras.begin(), lanzamiento.ejecutable);
-  auto variables = lanzamiento.entorno;
-  AccionesDelHijo acciones{salida, salida};
-  acciones.empezarEn(dondeEmpieza(lanzamiento.directorio));
-  AtributosDelHijo const atributos{POSIX_SPAWN_SETSID};
-  if (int const codigo = std::max(acciones.codigo(), atributos.codigo()); codigo != 0) return codigo;
-  return ::posix_spawn(&pid, lanzamiento.ejecutable.c_str(), acciones.puntero(), atributos.puntero(),
-                       punteros(palabras).data(), punteros(variables).data());
-}
-
 /// What a program tells of itself besides why it ended.
 bool esAcotacion(std::string_view linea) {
   constexpr std::array<std::string_view, 3> principios{"info:", "note:", "debug:"};
@@ -53,14 +42,12 @@ bool esAcotacion(std::string_view linea) {
 
 /// The lines of `texto`, one behind the other; `todas` takes asides too.
 std::string enUnaLinea(std::string_view texto, bool todas) {
-  std::string linea;
+  std::vector<std::string> lineas;
   while (!texto.empty()) {
-    auto const trozo = recortarAscii(sacarLinea(texto));
-    if (trozo.empty() || (!todas && esAcotacion(trozo))) continue;
-    if (!linea.empty()) linea += "; ";
-    linea += trozo;
+    auto const linea = recortarAscii(sacarLinea(texto));
+    if (!linea.empty() && (todas || !esAcotacion(linea))) lineas.emplace_back(linea);
   }
-  return linea;
+  return unidos(lineas, "; ");
 }
 
 std::string ultimasPalabras(int salida) {
@@ -91,6 +78,12 @@ FinTemprano finDe(std::string const& programa, int estado, int salida) {
   return fin;
 }
 
+/// What a terminal says from now on is kept nowhere: writing fails.
+void sellar(int salida) {
+  if (::fcntl(salida, F_ADD_SEALS, F_SEAL_GROW) != 0) return;
+  [[maybe_unused]] auto const vaciado = ::ftruncate(salida, 0);
+}
+
 std::unexpected<FinTemprano> noEmpieza(std::string const& programa, int codigo) {
   return std::unexpected{
       FinTemprano{127, programa + " could not be started: " + std::generic_category().message(codigo)}};
@@ -114,20 +107,27 @@ bool esperarLaSenal(int proceso, int vigia, Reloj::time_point limite) {
 std::expected<void, FinTemprano> lanzar(Lanzamiento const& lanzamiento, std::chrono::milliseconds plazo) {
   auto const limite = Reloj::now() + plazo;
   std::string const programa{nombreBase(lanzamiento.ejecutable)};
-  Descriptor const salida{::memfd_create("zorve-terminal", MFD_CLOEXEC)};
+  Descriptor const salida{::memfd_create("zorve-terminal", MFD_CLOEXEC | MFD_ALLOW_SEALING)};
   if (!salida) return noEmpieza(programa, errno);
   Descriptor const vigia{::inotify_init1(IN_CLOEXEC | IN_NONBLOCK)};
   auto const vigila = !lanzamiento.senal.empty() &&
                       ::inotify_add_watch(vigia.numero(), lanzamiento.senal.c_str(), IN_DELETE_SELF) >= 0;
-  pid_t pid = 0;
-  int const codigo = empezar(lanzamiento, salida.numero(), pid);
-  if (codigo != 0) return noEmpieza(programa, codigo);
-  Descriptor const proceso{static_cast<int>(::syscall(SYS_pidfd_open, pid, 0))};
-  if (esperarLaSenal(proceso.numero(), vigila ? vigia.numero() : -1, limite)) return {};
+  auto const pid = empezarHijo({.ruta = lanzamiento.ejecutable,
+                                .args = lanzamiento.args,
+                                .entorno = lanzamiento.entorno,
+                                .salida = salida.numero(),
+                                .error = salida.numero(),
+                                .ademas = POSIX_SPAWN_SETSID,
+                                .directorio = dondeEmpieza(lanzamiento.directorio)});
+  if (!pid) return noEmpieza(programa, pid.error());
+  Descriptor const proceso{static_cast<int>(::syscall(SYS_pidfd_open, *pid, 0))};
   int estado = 0;
-  if (::waitpid(pid, &estado, WNOHANG) != pid) return {};
-  if (WIFEXITED(estado) && WEXITSTATUS(estado) == 0) return {};
-  return std::unexpected{finDe(programa, estado, salida.numero())};
+  bool const abierta = esperarLaSenal(proceso.numero(), vigila ? vigia.numero() : -1, limite) ||
+                       ::waitpid(*pid, &estado, WNOHANG) != *pid ||
+                       (WIFEXITED(estado) && WEXITSTATUS(estado) == 0);
+  if (!abierta) return std::unexpected{finDe(programa, estado, salida.numero())};
+  sellar(salida.numero());
+  return {};
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace zorve {
+namespace zorve::ayudante {
 
 /// A program to start on its own.
 struct Lanzamiento {
@@ -30,9 +30,10 @@ struct FinTemprano {
 };
 
 /// Starts the program in a session of its own, with no stream of ours, no descriptor and no signal setting
-/// of ours. Returns as soon as it says that all went well, has ended with status 0, or has lived for
-/// `plazo`. Fails when it cannot be started or ends otherwise before.
+/// of ours. What it writes after this returns is kept nowhere. Returns as soon as it says that all went well,
+/// has ended with status 0, or has lived for `plazo`. Fails when it cannot be started or ends otherwise
+/// before.
 [[nodiscard]] std::expected<void, FinTemprano> lanzar(Lanzamiento const& lanzamiento,
                                                       std::chrono::milliseconds plazo);
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -16,10 +16,10 @@
 #include <string_view>
 #include <utility>
 
-#include "ZorveCore/Escape.h"
-#include "ZorveCore/TextoVisible.h"
+#include "ZorveCore/Texto/Escape.h"
+#include "ZorveCore/Texto/TextoVisible.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -152,4 +152,4 @@ void MarcaDeTitulo::repetir() const {
   (void)escribir(dispositivo_.numero(), ponerTitulo(texto_), esperaDeEscritura);
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -6,9 +6,9 @@
 #include <sys/types.h>
 
 #include "ZorvePlatform/Posix/Descriptor.h"
-#include "ZorveTerminal/ProcesosDelTty.h"
+#include "ZorveTerminal/SesionEnTty.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 /// A random title that a terminal window shows for a moment, so that it can be told from others. The title
 /// before it is kept on the terminal's stack (xterm's control sequences: CSI 22 ; 0 t and CSI 23 ; 0 t) and
@@ -41,4 +41,4 @@ class MarcaDeTitulo {
   pid_t guardian_ = 0;
 };
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -1,9 +1,11 @@
+#include "ZorveTerminal/NodosNumerados.h"
+
 #include <algorithm>
+#include <string>
 
-#include "ZorveCore/Entero.h"
-#include "ZorveTerminal/Bus.h"
+#include "ZorveCore/Texto/Entero.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 std::vector<std::uint32_t> nodosNumerados(std::string_view introspeccion, std::string_view prefijo) {
   auto const principio = "<node name=\"" + std::string{prefijo};
@@ -18,4 +20,4 @@ std::vector<std::uint32_t> nodosNumerados(std::string_view introspeccion, std::s
   return numeros;
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -3,7 +3,21 @@
 #include <algorithm>
 #include <array>
 
-namespace zorve {
+#include "ZorveTerminal/PestanasDeGnomeTerminal.h"
+#include "ZorveTerminal/PestanasDeKgx.h"
+#include "ZorveTerminal/PestanasDeKitty.h"
+#include "ZorveTerminal/PestanasDeKonsole.h"
+#include "ZorveTerminal/PestanasDeTilix.h"
+
+namespace zorve::ayudante {
+
+Mostrada mostradaSegun(FalloDeBus fallo) {
+  return fallo == FalloDeBus::calla ? Mostrada::calla : Mostrada::noSabe;
+}
+
+Mostrada mostradaSegun(Respuesta const& respuesta) {
+  return respuesta ? Mostrada::si : mostradaSegun(respuesta.error());
+}
 
 ModoDeEnfoque modoDeEnfoque(std::string_view identificador) {
   constexpr std::array modos{
@@ -22,4 +36,4 @@ ModoDeEnfoque modoDeEnfoque(std::string_view identificador) {
   return modo != modos.end() ? *modo : ModoDeEnfoque{.identificador = identificador};
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

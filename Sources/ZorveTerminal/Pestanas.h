@@ -4,9 +4,10 @@
 #include <memory>
 #include <string_view>
 
+#include "ZorveTerminal/Bus.h"
 #include "ZorveTerminal/SesionEnTty.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 /// What became of a request to a terminal.
 enum class Mostrada : std::uint8_t {
@@ -17,6 +18,10 @@ enum class Mostrada : std::uint8_t {
   /// The terminal does not answer.
   calla,
 };
+
+/// What became of one that D-Bus carried.
+[[nodiscard]] Mostrada mostradaSegun(FalloDeBus fallo);
+[[nodiscard]] Mostrada mostradaSegun(Respuesta const& respuesta);
 
 /// What a terminal offers to bring a session's tab to the front of its window. Every call ends within 3 s.
 class Pestanas {
@@ -52,11 +57,4 @@ struct ModoDeEnfoque {
 /// The row of the terminal.
 [[nodiscard]] ModoDeEnfoque modoDeEnfoque(std::string_view identificador);
 
-/// One maker a terminal, each in a file of its own. `sesion` outlives what they make.
-[[nodiscard]] std::unique_ptr<Pestanas> pestanasDeGnomeTerminal(SesionEnTty const& sesion);
-[[nodiscard]] std::unique_ptr<Pestanas> pestanasDeKgx(SesionEnTty const& sesion);
-[[nodiscard]] std::unique_ptr<Pestanas> pestanasDeKitty(SesionEnTty const& sesion);
-[[nodiscard]] std::unique_ptr<Pestanas> pestanasDeKonsole(SesionEnTty const& sesion);
-[[nodiscard]] std::unique_ptr<Pestanas> pestanasDeTilix(SesionEnTty const& sesion);
-
-}  // namespace zorve
+}  // namespace zorve::ayudante

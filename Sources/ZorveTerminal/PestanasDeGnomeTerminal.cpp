@@ -1,10 +1,11 @@
+#include "ZorveTerminal/PestanasDeGnomeTerminal.h"
+
 #include <algorithm>
 #include <optional>
 
 #include "ZorveTerminal/Bus.h"
-#include "ZorveTerminal/Pestanas.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -26,7 +27,7 @@ class PestanasDeGnomeTerminal final : public Pestanas {
     nombre.erase(0, pantalla.size());
     (void)std::ranges::replace(nombre, '_', '-');
     std::vector<Argumento> const argumentos{nombre, std::vector<std::string>{}, std::uint32_t{0}};
-    return segun(bus_.llamar(
+    return mostradaSegun(bus_.llamar(
         {servicio, "/org/gnome/Terminal/SearchProvider", "org.gnome.Shell.SearchProvider2", "ActivateResult"},
         argumentos));
   }
@@ -36,7 +37,7 @@ class PestanasDeGnomeTerminal final : public Pestanas {
   [[nodiscard]] Mostrada siguiente() override {
     if (!preguntadas_) {
       auto const todas = bus_.numerados(servicio, ventanas);
-      if (!todas) return segun(Respuesta{std::unexpected{todas.error()}});
+      if (!todas) return mostradaSegun(todas.error());
       porVer_ = *todas;
       auto const sesiones = static_cast<std::int32_t>(sesionesDe(bus_.procesoDe(servicio)).size());
       // Every other window has one tab at least.
@@ -58,11 +59,6 @@ class PestanasDeGnomeTerminal final : public Pestanas {
   }
 
  private:
-  static Mostrada segun(Respuesta const& respuesta) {
-    if (respuesta) return Mostrada::si;
-    return respuesta.error() == FalloDeBus::calla ? Mostrada::calla : Mostrada::noSabe;
-  }
-
   [[nodiscard]] Metodo metodo(char const* nombre) const {
     return {servicio, std::string{ventanas} + "/" + std::to_string(porVer_.back()), "org.gtk.Actions",
             nombre};
@@ -108,4 +104,4 @@ std::unique_ptr<Pestanas> pestanasDeGnomeTerminal(SesionEnTty const& sesion) {
   return std::make_unique<PestanasDeGnomeTerminal>(sesion);
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

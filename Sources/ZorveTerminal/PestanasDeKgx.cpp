@@ -1,9 +1,10 @@
+#include "ZorveTerminal/PestanasDeKgx.h"
+
 #include <algorithm>
 
 #include "ZorveTerminal/Bus.h"
-#include "ZorveTerminal/Pestanas.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -27,10 +28,8 @@ class PestanasDeKgx final : public Pestanas {
       cuantas_ *= 2;
     }
     std::vector<Argumento> const argumentos{"focus-page", Variantes{{pagina_++}}, SinOpciones{}};
-    auto const respuesta =
-        bus_.llamar({servicio, "/org/gnome/Console", "org.gtk.Actions", "Activate"}, argumentos);
-    if (respuesta) return Mostrada::si;
-    return respuesta.error() == FalloDeBus::calla ? Mostrada::calla : Mostrada::noSabe;
+    return mostradaSegun(
+        bus_.llamar({servicio, "/org/gnome/Console", "org.gtk.Actions", "Activate"}, argumentos));
   }
 
  private:
@@ -57,4 +56,4 @@ std::unique_ptr<Pestanas> pestanasDeKgx(SesionEnTty const& sesion) {
   return std::make_unique<PestanasDeKgx>(sesion);
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -1,10 +1,11 @@
+#include "ZorveTerminal/PestanasDeKitty.h"
+
 #include <algorithm>
 #include <array>
 
 #include "ZorveTerminal/EnchufeLocal.h"
-#include "ZorveTerminal/Pestanas.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -50,4 +51,4 @@ std::unique_ptr<Pestanas> pestanasDeKitty(SesionEnTty const& sesion) {
   return std::make_unique<PestanasDeKitty>(sesion);
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -1,11 +1,12 @@
+#include "ZorveTerminal/PestanasDeKonsole.h"
+
 #include <algorithm>
 #include <optional>
 
-#include "ZorveCore/Entero.h"
+#include "ZorveCore/Texto/Entero.h"
 #include "ZorveTerminal/Bus.h"
-#include "ZorveTerminal/Pestanas.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -27,12 +28,12 @@ class PestanasDeKonsole final : public Pestanas {
     auto const cual = numeroTras(sesion_.variable("KONSOLE_DBUS_SESSION"), "/Sessions/");
     if (!cual || !sesion_.desciendeDe(bus_.procesoDe(servicio_))) return Mostrada::noSabe;
     auto const todas = bus_.numerados(servicio_, ventanas);
-    if (!todas) return segun(todas.error());
+    if (!todas) return mostradaSegun(todas.error());
     for (auto const ventana : *todas) {
       if (!tiene(ventana, *cual)) continue;
       std::vector<Argumento> const argumentos{*cual};
       auto const puesta = bus_.llamar(metodo(ventana, "setCurrentSession"), argumentos);
-      if (!puesta) return segun(puesta.error());
+      if (!puesta) return mostradaSegun(puesta.error());
       recordarVentana(ventana, *todas);
       return Mostrada::si;
     }
@@ -42,9 +43,6 @@ class PestanasDeKonsole final : public Pestanas {
   [[nodiscard]] std::uint64_t ventana() const override { return ventana_; }
 
  private:
-  static Mostrada segun(FalloDeBus fallo) {
-    return fallo == FalloDeBus::calla ? Mostrada::calla : Mostrada::noSabe;
-  }
   [[nodiscard]] static std::string objeto(std::uint32_t ventana) {
     return std::string{ventanas} + "/" + std::to_string(ventana);
   }
@@ -86,4 +84,4 @@ std::unique_ptr<Pestanas> pestanasDeKonsole(SesionEnTty const& sesion) {
   return std::make_unique<PestanasDeKonsole>(sesion);
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

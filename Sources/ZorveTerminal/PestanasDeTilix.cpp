@@ -1,7 +1,8 @@
-#include "ZorveTerminal/Bus.h"
-#include "ZorveTerminal/Pestanas.h"
+#include "ZorveTerminal/PestanasDeTilix.h"
 
-namespace zorve {
+#include "ZorveTerminal/Bus.h"
+
+namespace zorve::ayudante {
 
 namespace {
 
@@ -17,10 +18,8 @@ class PestanasDeTilix final : public Pestanas {
     auto const nombre = sesion_.variable("TILIX_ID");
     if (nombre.empty() || !sesion_.desciendeDe(bus_.procesoDe(servicio))) return Mostrada::noSabe;
     std::vector<Argumento> const argumentos{"activate-terminal", Variantes{{nombre}}, SinOpciones{}};
-    auto const respuesta =
-        bus_.llamar({servicio, "/com/gexperts/Tilix", "org.gtk.Actions", "Activate"}, argumentos);
-    if (respuesta) return Mostrada::si;
-    return respuesta.error() == FalloDeBus::calla ? Mostrada::calla : Mostrada::noSabe;
+    return mostradaSegun(
+        bus_.llamar({servicio, "/com/gexperts/Tilix", "org.gtk.Actions", "Activate"}, argumentos));
   }
 
  private:
@@ -34,4 +33,4 @@ std::unique_ptr<Pestanas> pestanasDeTilix(SesionEnTty const& sesion) {
   return std::make_unique<PestanasDeTilix>(sesion);
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -7,10 +7,11 @@
 #include <cstring>
 #include <utility>
 
+#include "ZorveCore/Texto/Texto.h"
 #include "ZorvePlatform/Posix/Variable.h"
 #include "ZorveTerminal/EnchufeLocal.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -52,7 +53,8 @@ std::vector<Ventana> recoger(Nodo const& raiz) {
     Nodo const nodo = pendientes.back();
     pendientes.pop_back();
     auto const id = numero(nodo, "id");
-    auto const pid = numero(nodo, "pid");
+    // A window of X says itself whose it is.
+    auto const pid = texto(nodo, "shell") == "xwayland" ? 0 : numero(nodo, "pid");
     if (id > 0 && pid > 0) {
       ventanas.push_back({static_cast<std::uint64_t>(id), static_cast<pid_t>(pid), texto(nodo, "name"),
                           cierto(nodo, "focused")});
@@ -68,7 +70,8 @@ std::vector<Ventana> recoger(Nodo const& raiz) {
 std::vector<Ventana> ventanasDelArbol(std::string_view arbol) {
   simdjson::dom::parser lector;
   simdjson::dom::element raiz;
-  if (lector.parse(arbol.data(), arbol.size()).get(raiz) != simdjson::SUCCESS) return {};
+  // A title is whatever a program wrote: sway passes its bytes on.
+  if (lector.parse(conUtf8Valido(arbol)).get(raiz) != simdjson::SUCCESS) return {};
   return recoger(raiz);
 }
 
@@ -98,4 +101,4 @@ std::optional<std::string> Sway::preguntar(std::uint32_t tipo, std::string_view 
   return leerTodo(enchufe_, respuesta) ? std::optional{std::move(respuesta)} : std::nullopt;
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

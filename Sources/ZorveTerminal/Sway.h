@@ -9,7 +9,7 @@
 #include "ZorvePlatform/Posix/Descriptor.h"
 #include "ZorveTerminal/Ventanas.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 /// Every node of sway's tree (the text of its reply) that has a process, in the order of the tree; none when
 /// the text is not understood.
@@ -31,4 +31,4 @@ class Sway final : public Ventanas {
   Descriptor enchufe_;
 };
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -5,16 +5,18 @@
 
 #include <algorithm>
 #include <chrono>
+#include <filesystem>
 #include <tuple>
 #include <utility>
 
-#include "ZorveCore/Entero.h"
-#include "ZorveCore/Escape.h"
-#include "ZorveCore/Texto.h"
-#include "ZorveCore/TextoVisible.h"
+#include "ZorveCore/Texto/Entero.h"
+#include "ZorveCore/Texto/Escape.h"
+#include "ZorveCore/Texto/Texto.h"
+#include "ZorveCore/Texto/TextoVisible.h"
 #include "ZorvePlatform/Linux/ProgramaAcotado.h"
+#include "ZorvePlatform/Posix/Propiedad.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -94,7 +96,7 @@ std::optional<std::string> enchufePropio(std::string_view variable) {
   struct stat estado{};
   if (!ruta.starts_with('/') || ::lstat(ruta.c_str(), &estado) != 0) return std::nullopt;
   if (!S_ISSOCK(estado.st_mode) || estado.st_uid != ::geteuid()) return std::nullopt;
-  return ruta;
+  return soloNuestra(std::filesystem::path{ruta}.parent_path().string()) ? std::optional{ruta} : std::nullopt;
 }
 
 ServidorDeTmux::ServidorDeTmux(std::string programa, std::string enchufe)
@@ -137,4 +139,4 @@ std::string ServidorDeTmux::ordenParaUnirse(PaneDeTmux const& pane) const {
          palabraDeShell(destino(pane));
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

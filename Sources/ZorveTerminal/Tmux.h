@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace zorve {
+namespace zorve::ayudante {
 
 /// A pane as one session shows it; linked windows stand once for each session. The three identifiers are
 /// tmux's own ("$0", "@1", "%2").
@@ -46,7 +46,8 @@ struct ClienteDeTmux {
 /// The view of the pane in the session that the client shows, else the first. `vistas` is not empty.
 [[nodiscard]] PaneDeTmux const& vistaPara(ClienteDeTmux const& cliente, std::span<PaneDeTmux const> vistas);
 
-/// The socket that a value of $TMUX names, if it is an absolute path of a socket (no link) of this user.
+/// The socket that a value of $TMUX names, if it is an absolute path of a socket (no link) of this user, in a
+/// folder where nobody else can put another in its place.
 [[nodiscard]] std::optional<std::string> enchufePropio(std::string_view variable);
 
 /// A running tmux server. Every call runs the program `programa` (an absolute path) for two seconds at most
@@ -70,4 +71,4 @@ class ServidorDeTmux {
   std::string enchufe_;
 };
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

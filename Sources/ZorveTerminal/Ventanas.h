@@ -8,15 +8,16 @@
 
 #include <sys/types.h>
 
-#include "ZorveCore/FichaDeTerminal.h"
+#include "ZorveCore/Terminales/FichaDeTerminal.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 /// A window on the person's desktop.
 struct Ventana {
   /// What its window system calls it.
   std::uint64_t id = 0;
-  /// The process that it says it belongs to, 0 when it says nothing.
+  /// The process that it belongs to by its window system's own word, 0 where that has none: what a window of
+  /// X says of itself does not count.
   pid_t pid = 0;
   std::string titulo = {};
   /// Whether it has the keyboard.
@@ -43,7 +44,8 @@ class Ventanas {
   [[nodiscard]] virtual bool activar(std::uint64_t id, std::chrono::milliseconds plazo) const = 0;
 };
 
-/// The windows of this process's desktop; null where nothing can be asked for them.
-[[nodiscard]] std::unique_ptr<Ventanas> ventanasDe(SesionGrafica sesion);
+/// The windows of this process's desktop; null where nothing can be asked for them. Where the desktop tells
+/// no more than it is asked for, those of `procesos`.
+[[nodiscard]] std::unique_ptr<Ventanas> ventanasDe(SesionGrafica sesion, std::vector<pid_t> const& procesos);
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -8,9 +8,11 @@
 #include <cstdlib>
 #include <thread>
 
-#include "ZorveTerminal/ArchivoDePaso.h"
+#include "ZorvePlatform/Posix/Hogar.h"
+#include "ZorvePlatform/Posix/Variable.h"
+#include "ZorveTerminal/CarpetaDePaso.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -33,7 +35,9 @@ constexpr std::string_view alFinal = R"(
   for (var i = 0; i < lista.length; ++i) {
     var una = lista[i];
     if (!una.normalWindow) continue;
-    todas.push({id: String(una.internalId), pid: una.pid, name: String(una.caption), focused: una === activa});
+    // An X window says itself whose it is.
+    var deX = Number(una.windowId || 0) !== 0 || String(una).indexOf("X11") >= 0;
+    todas.push({id: String(una.internalId), pid: deX ? 0 : una.pid, name: String(una.caption), focused: una === activa});
   }
 )";
 
@@ -106,9 +110,10 @@ std::optional<std::string> VentanasDeKWin::correr(std::string const& guion) cons
   auto const texto = std::string{alPrincipio} + guion + std::string{alFinal} + "  callDBus(" +
                      literal(nuestro.servicio) + ", " + literal(nuestro.objeto) + ", " + literal(interfaz) +
                      ", " + literal(metodo) + ", JSON.stringify(todas));\n})();\n";
-  ArchivoDePaso const archivo{texto};
-  if (archivo.ruta().empty()) return std::nullopt;
-  std::vector<Argumento> const cual{archivo.ruta(), archivo.ruta()};
+  CarpetaDePaso const carpeta{lugarDePaso(variable("XDG_RUNTIME_DIR"), hogarDelUsuario().value_or("/"))};
+  if (carpeta.ruta().empty() || !carpeta.escribir("guion", texto)) return std::nullopt;
+  auto const archivo = carpeta.ruta() + "/guion";
+  std::vector<Argumento> const cual{archivo, archivo};
   Metodo const cargar{servicio, "/Scripting", "org.kde.kwin.Scripting", "loadScript"};
   auto const cargado = bus_.llamar(cargar, cual, plazoDelGuion);
   auto const* const numero =
@@ -117,10 +122,10 @@ std::optional<std::string> VentanasDeKWin::correr(std::string const& guion) cons
   std::optional<std::string> respuesta;
   for (auto const& objeto : {"/Scripting/Script" + std::to_string(*numero), "/" + std::to_string(*numero)}) {
     if (!bus_.llamar({servicio, objeto, "org.kde.kwin.Script", "run"}, {}, plazoDelGuion)) continue;
-    respuesta = bus_.recibir(nuestro, plazoDelGuion);
+    respuesta = bus_.recibir(nuestro, plazoDelGuion, bus_.duenoDe(servicio));
     break;
   }
-  std::vector<Argumento> const nombre{archivo.ruta()};
+  std::vector<Argumento> const nombre{archivo};
   [[maybe_unused]] auto const descargado =
       bus_.llamar({servicio, "/Scripting", "org.kde.kwin.Scripting", "unloadScript"}, nombre, plazoDelGuion);
   return respuesta;
@@ -133,4 +138,4 @@ std::uint64_t VentanasDeKWin::idDe(std::string const& nombre) const {
   return nombres_.size();
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

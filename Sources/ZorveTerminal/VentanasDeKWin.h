@@ -8,7 +8,7 @@
 #include "ZorveTerminal/Bus.h"
 #include "ZorveTerminal/Ventanas.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 /// What a script of ours says about one window.
 struct VentanaDeKWin {
@@ -40,4 +40,4 @@ class VentanasDeKWin final : public Ventanas {
   mutable std::vector<std::string> nombres_;
 };
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

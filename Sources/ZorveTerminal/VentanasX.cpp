@@ -1,5 +1,6 @@
 #include "ZorveTerminal/VentanasX.h"
 
+#include <xcb/res.h>
 #include <xcb/xcb.h>
 
 #include <cstdlib>
@@ -9,7 +10,7 @@
 #include <thread>
 #include <utility>
 
-namespace zorve {
+namespace zorve::ayudante {
 
 namespace {
 
@@ -79,6 +80,22 @@ struct VentanasX::Conexion {
   [[nodiscard]] std::optional<std::uint32_t> numero(xcb_window_t ventana, std::string_view nombre) const {
     auto const todos = numeros(ventana, nombre);
     return todos.empty() ? std::nullopt : std::optional{todos.front()};
+  }
+
+  /// The process on this machine that made the window, by the server's own word (X-Resource 1.2); 0 where it
+  /// has none. What a window says of itself (_NET_WM_PID) may be a lie.
+  [[nodiscard]] pid_t proceso(xcb_window_t ventana) const {
+    xcb_res_client_id_spec_t const cual{ventana, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
+    Respuesta<xcb_res_query_client_ids_reply_t> const respuesta{
+        xcb_res_query_client_ids_reply(x, xcb_res_query_client_ids(x, 1, &cual), nullptr)};
+    if (!respuesta) return 0;
+    auto ids = xcb_res_query_client_ids_ids_iterator(respuesta.get());
+    for (; ids.rem > 0; xcb_res_client_id_value_next(&ids)) {
+      bool const esPid = (ids.data->spec.mask & XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID) != 0;
+      if (!esPid || xcb_res_client_id_value_value_length(ids.data) < 1) continue;
+      return static_cast<pid_t>(*xcb_res_client_id_value_value(ids.data));
+    }
+    return 0;
   }
 
   /// A dialog stands before a window of its own (ICCCM 4.1.2.6) and shows no session.
@@ -159,10 +176,10 @@ std::vector<Ventana> VentanasX::todas() const {
   auto const activa = conexion_->numero(conexion_->raiz, "_NET_ACTIVE_WINDOW");
   for (auto const ventana : conexion_->numeros(conexion_->raiz, "_NET_CLIENT_LIST")) {
     if (conexion_->esDeOtra(ventana)) continue;
-    auto const pid = conexion_->numero(ventana, "_NET_WM_PID").value_or(0);
+    auto const pid = conexion_->proceso(ventana);
     auto titulo = conexion_->texto(ventana, "_NET_WM_NAME");
     if (titulo.empty()) titulo = conexion_->texto(ventana, "WM_NAME");
-    ventanas.push_back({ventana, static_cast<pid_t>(pid), std::move(titulo), activa == ventana});
+    ventanas.push_back({ventana, pid, std::move(titulo), activa == ventana});
   }
   return ventanas;
 }
@@ -204,4 +221,4 @@ bool VentanasX::activar(std::uint64_t id, std::chrono::milliseconds plazo) const
   return activaDesde.has_value();
 }
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -4,7 +4,7 @@
 
 #include "ZorveTerminal/Ventanas.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 
 /// The windows of the X display that $DISPLAY names, by what its window manager publishes (EWMH). Dialogs
 /// are none.
@@ -25,4 +25,4 @@ class VentanasX final : public Ventanas {
   std::unique_ptr<Conexion> conexion_;
 };
 
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -1,7 +1,7 @@
 #include "zorvectl/Contexto.h"
 
-#include "ZorveCore/SessionIndex.h"
-#include "ZorveCore/TextoVisible.h"
+#include "ZorveCore/Lectura/SessionIndex.h"
+#include "ZorveCore/Texto/TextoVisible.h"
 #include "ZorvePlatform/Posix/Hogar.h"
 
 namespace zorve::ctl {
@@ -11,14 +11,13 @@ std::expected<std::string, std::string> hogarDe(std::string const& opcion) {
   return hogarNombrado(opcion);
 }
 
-IndexResult leerSesiones(Contexto const& contexto, std::string const& home) {
+IndexResult leerSesiones(Contexto const& contexto, std::string const& home, VocesDelSistema const& voces) {
   return SessionIndex::construir(contexto.archivos, contexto.procesos,
-                                 SessionIndex::ubicacionesPorDefecto(home));
+                                 SessionIndex::ubicacionesPorDefecto(home), voces);
 }
 
-std::string lineaDeAviso(Contexto const& contexto, IndexError const& aviso) {
-  auto const linea = std::string{textoCrudo(aviso.fuente)} + ": " + aviso.mensaje;
-  return textoVisible(contexto.textoPropio(linea));
+std::string lineaDeAviso(IndexError const& aviso) {
+  return textoVisible(std::string{textoCrudo(aviso.fuente)} + ": " + aviso.mensaje);
 }
 
 }  // namespace zorve::ctl

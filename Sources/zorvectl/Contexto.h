@@ -2,11 +2,11 @@
 
 #include <expected>
 #include <string>
-#include <string_view>
 
-#include "ZorveCore/Archivos.h"
+#include "ZorveCore/Lectura/Archivos.h"
+#include "ZorveCore/Lectura/VidaDeProcesos.h"
 #include "ZorveCore/Modelo.h"
-#include "ZorveCore/VidaDeProcesos.h"
+#include "ZorveCore/VocesDelSistema.h"
 
 namespace zorve::ctl {
 
@@ -18,18 +18,19 @@ struct Contexto {
 
   Archivos& archivos;
   VidaDeProcesos& procesos;
-  /// How this system's people are shown a text of ours.
-  std::string (*textoPropio)(std::string_view);
+  /// In which people are spoken to; JSON keeps the default ones.
+  VocesDelSistema voces;
   int codigo = hecho;
 };
 
 /// The home directory that `--home` names, or the user's where it is empty.
 [[nodiscard]] std::expected<std::string, std::string> hogarDe(std::string const& opcion);
 
-/// Every session below `home`, and the notices.
-[[nodiscard]] IndexResult leerSesiones(Contexto const& contexto, std::string const& home);
+/// Every session below `home`, and the notices in the words of `voces`.
+[[nodiscard]] IndexResult leerSesiones(Contexto const& contexto, std::string const& home,
+                                       VocesDelSistema const& voces);
 
 /// A notice as one line for people: its source, then the message, safe to print.
-[[nodiscard]] std::string lineaDeAviso(Contexto const& contexto, IndexError const& aviso);
+[[nodiscard]] std::string lineaDeAviso(IndexError const& aviso);
 
 }  // namespace zorve::ctl

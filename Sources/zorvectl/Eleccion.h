@@ -15,7 +15,4 @@ namespace zorve::ctl {
 [[nodiscard]] std::string terminalDesconocida(ServiciosDeTerminal const& servicios,
                                               std::string_view identificador);
 
-/// Says on standard error why the settings cannot be read, if so.
-void avisarDePreferencias(Preferencias const& preferencias);
-
 }  // namespace zorve::ctl

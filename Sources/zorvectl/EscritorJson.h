@@ -9,11 +9,12 @@
 #include <string_view>
 
 #include "ZorveCore/Modelo.h"
-#include "ZorveCore/Texto.h"
+#include "ZorveCore/Texto/Texto.h"
 
 namespace zorve::ctl {
 
-/// Writes one JSON text on one line. Bytes that are no UTF-8 become U+FFFD; nothing becomes null; times are
+/// Writes one JSON text on one line. Bytes that are no UTF-8 become U+FFFD; controls, DEL and what steers the
+/// direction of text are escaped (\u009b), so that a terminal may show it; nothing becomes null; times are
 /// seconds since 1970.
 class EscritorJson {
  public:
@@ -57,9 +58,7 @@ class EscritorJson {
   }
 
   /// What was written, with a line feed.
-  [[nodiscard]] std::string hecho() const {
-    return {std::string{memoria_.GetString(), memoria_.GetSize()} + "\n"};
-  }
+  [[nodiscard]] std::string hecho() const;
 
  private:
   rapidjson::StringBuffer memoria_;

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "ZorveCore/Presentacion.h"
-#include "ZorveCore/TextoVisible.h"
+#include "ZorveCore/Texto/Presentacion.h"
+#include "ZorveCore/Texto/TextoVisible.h"
 #include "zorvectl/Tabla.h"
 
 namespace zorve::ctl {

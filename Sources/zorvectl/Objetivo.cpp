@@ -24,33 +24,25 @@ std::optional<std::string> usoIncorrecto(Objetivo const& objetivo) {
   return std::nullopt;
 }
 
-std::unexpected<SinPlan> sinPlan(Contexto const& contexto, FalloDeApertura const& fallo) {
-  if (auto const* nuestro = std::get_if<IndexError>(&fallo)) {
-    return std::unexpected{SinPlan{Contexto::fallo, contexto.textoPropio(nuestro->mensaje)}};
-  }
-  return std::unexpected{SinPlan{Contexto::fallo, Textos{Idioma::en}.noSePudoAbrir(descripcionDe(fallo))}};
+std::unexpected<SinPlan> sinPlan(FalloDeApertura const& fallo) {
+  return std::unexpected{SinPlan{Contexto::fallo, textoDe(fallo, Textos{Idioma::en})}};
 }
 
-std::expected<TerminalRef, SinPlan> terminalPara(Contexto const& contexto,
-                                                 ServiciosDeTerminal const& servicios,
+std::expected<TerminalRef, SinPlan> terminalPara(ServiciosDeTerminal const& servicios,
                                                  std::optional<std::string> const& pedida) {
   if (pedida) {
     if (auto terminal = terminalConocida(servicios, *pedida)) return terminal;
     return std::unexpected{SinPlan{Contexto::malUso, terminalDesconocida(servicios, *pedida)}};
   }
-  avisarDePreferencias(*servicios.preferencias);
-  auto resuelta = resolverTerminal(servicios.catalogo());
-  if (!resuelta) return sinPlan(contexto, resuelta.error());
-  return resuelta->terminal;
+  auto const mirada = mirar(servicios.apertura.fuentes);
+  if (!mirada.eleccion) avisar("zorvectl: " + mirada.eleccion.error().mensaje);
+  if (!mirada.resuelta) return sinPlan(mirada.resuelta.error());
+  return mirada.resuelta->terminal;
 }
 
-Plan planDe(Contexto const& contexto, Session const& sesion, TerminalRef const& terminal,
-            ServiciosDeTerminal const& servicios) {
-  EjecutorDeProcesos const ejecutor;
-  Launcher const lanzador{terminal, ejecutor, servicios.rutaPs,
-                          servicios.anfitrionas(servicios.propias, terminal)};
-  auto plan = lanzador.plan(sesion);
-  if (!plan) return sinPlan(contexto, plan.error());
+Plan planDe(Session const& sesion, TerminalRef const& terminal, ServiciosDeTerminal const& servicios) {
+  auto plan = servicios.apertura.lanzador(terminal, EjecutorDeProcesos{}).plan(sesion);
+  if (!plan) return sinPlan(plan.error());
   return *std::move(plan);
 }
 
@@ -59,13 +51,13 @@ Plan planDe(Contexto const& contexto, Objetivo const& objetivo, TerminalRef cons
   if (objetivo.cwd) return terminal->planParaAbrir(*objetivo.cwd, *objetivo.comando);
   if (objetivo.tty) {
     auto plan = terminal->planParaEnfocar(*objetivo.tty);
-    if (!plan) return sinPlan(contexto, plan.error());
+    if (!plan) return sinPlan(plan.error());
     return *std::move(plan);
   }
-  auto const leido = leerSesiones(contexto, home);
+  auto const leido = leerSesiones(contexto, home, contexto.voces);
   auto const sesion = buscarSesion(leido.sesiones, *objetivo.sesion);
   if (!sesion) return std::unexpected{SinPlan{Contexto::fallo, sesion.error()}};
-  return planDe(contexto, **sesion, terminal, servicios);
+  return planDe(**sesion, terminal, servicios);
 }
 
 }  // namespace
@@ -89,7 +81,7 @@ std::expected<PlanHecho, SinPlan> planear(Contexto const& contexto, Objetivo con
   auto const home = hogarDe(objetivo.home);
   if (!home) return std::unexpected{SinPlan{Contexto::fallo, home.error()}};
   auto servicios = std::make_unique<ServiciosDeTerminal>(serviciosDeTerminal(*home));
-  auto terminal = terminalPara(contexto, *servicios, objetivo.terminal);
+  auto terminal = terminalPara(*servicios, objetivo.terminal);
   if (!terminal) return std::unexpected{std::move(terminal).error()};
   auto plan = planDe(contexto, objetivo, *terminal, *servicios, *home);
   if (!plan) return std::unexpected{std::move(plan).error()};

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "ZorveCore/Terminal.h"
+#include "ZorveCore/Terminales/Terminal.h"
 #include "ZorvePlatform/ServiciosDeTerminal.h"
 #include "zorvectl/Contexto.h"
 

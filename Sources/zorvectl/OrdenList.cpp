@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "ZorveCore/Filtro.h"
+#include "ZorveCore/Texto/Filtro.h"
 #include "ZorvePlatform/Posix/Local.h"
 #include "zorvectl/ListaJson.h"
 #include "zorvectl/ListaParaPersonas.h"
@@ -33,7 +33,7 @@ void mostrar(Contexto& contexto, IndexResult const& resultado, std::vector<Sessi
   auto const clave = largoDeClave(resultado.sesiones);
   escribir(contexto,
            listaParaPersonas(sesiones, clave, home, std::chrono::system_clock::now(), pantallaDeSalida()));
-  for (auto const& error : resultado.errores) avisar(lineaDeAviso(contexto, error));
+  for (auto const& error : resultado.errores) avisar(lineaDeAviso(error));
   if (!resultado.sesiones.empty() && sesiones.empty()) avisar("no matches");
   if (resultado.sesiones.empty() && resultado.errores.empty()) avisar("no sessions");
 }
@@ -41,7 +41,7 @@ void mostrar(Contexto& contexto, IndexResult const& resultado, std::vector<Sessi
 void listar(Contexto& contexto, Opciones const& opciones) {
   auto const home = hogarDe(opciones.home);
   if (!home) return terminarCon(contexto, Contexto::fallo, home.error());
-  auto const resultado = leerSesiones(contexto, *home);
+  auto const resultado = leerSesiones(contexto, *home, opciones.json ? VocesDelSistema{} : contexto.voces);
   auto const sesiones = elegidas(resultado, opciones.filtro);
   if (opciones.json) return escribir(contexto, listaJson(sesiones, resultado.errores));
   mostrar(contexto, resultado, sesiones, *home);

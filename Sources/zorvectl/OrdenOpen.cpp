@@ -2,7 +2,6 @@
 #include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
 #include "zorvectl/Objetivo.h"
 #include "zorvectl/Ordenes.h"
-#include "zorvectl/PlanParaPersonas.h"
 #include "zorvectl/Salida.h"
 
 namespace zorve::ctl {
@@ -13,7 +12,7 @@ void abrir(Contexto& contexto, Objetivo const& objetivo) {
   auto const hecho = planear(contexto, objetivo);
   if (!hecho) return terminarCon(contexto, hecho.error().codigo, hecho.error().linea);
   if (auto const* sinEnfoque = std::get_if<NoSePuedeEnfocar>(&hecho->plan)) {
-    return terminarCon(contexto, Contexto::fallo, avisoSinEnfoque(contexto, *sinEnfoque, *hecho->terminal));
+    return terminarCon(contexto, Contexto::fallo, razonDe(*sinEnfoque, *hecho->terminal, Textos{Idioma::en}));
   }
   auto const falla = ejecutarComandos(std::get<std::vector<ComandoDeApertura>>(hecho->plan),
                                       EjecutorDeProcesos{}, Textos{Idioma::en});

@@ -14,7 +14,7 @@ void agregarOrdenPlan(CLI::App& app, Contexto& contexto) {
     auto const hecho = planear(contexto, *objetivo);
     if (!hecho) return terminarCon(contexto, hecho.error().codigo, hecho.error().linea);
     if (*json) return escribir(contexto, planJson(hecho->plan));
-    escribir(contexto, planParaPersonas(contexto, hecho->plan, *hecho->terminal, pantallaDeSalida()));
+    escribir(contexto, planParaPersonas(hecho->plan, *hecho->terminal, pantallaDeSalida()));
   });
 }
 

@@ -1,4 +1,4 @@
-#include "ZorveCore/TextoVisible.h"
+#include "ZorveApp/Apertura.h"
 #include "zorvectl/Eleccion.h"
 #include "zorvectl/EscritorJson.h"
 #include "zorvectl/Ordenes.h"
@@ -9,58 +9,41 @@ namespace zorve::ctl {
 
 namespace {
 
-/// Everything there is to say of the terminals, asked for once.
-struct Estado {
-  std::vector<TerminalRef> conocidas;
-  std::optional<std::string> eleccion;
-  std::optional<std::string> manejador;
-  /// Where the system says so.
-  std::optional<std::string> dichoPor;
-  std::expected<TerminalResuelta, IndexError> resuelta;
-  /// Why the settings could not be read.
-  std::optional<IndexError> aviso;
-};
-
-Estado estadoDe(ServiciosDeTerminal const& servicios) {
-  auto const catalogo = servicios.catalogo();
-  auto const leida = servicios.preferencias->leer(std::string{CatalogoDeTerminales::clavePreferencia});
-  return {.conocidas = catalogo.conocidas,
-          .eleccion = catalogo.leerEleccion(),
-          .manejador = catalogo.manejadorDelSistema(),
-          .dichoPor = servicios.manejador->dichoPor(CatalogoDeTerminales::tipoDeGuionDeShell),
-          .resuelta = catalogo.resolver(),
-          .aviso = leida ? std::nullopt : std::optional{leida.error()}};
+/// Why no terminal would be used, as an error of ours.
+IndexError errorDe(FalloDeApertura const& fallo) {
+  if (auto const* nuestro = std::get_if<IndexError>(&fallo)) return *nuestro;
+  return {IndexSource::launcher, descripcionDe(fallo)};
 }
 
-std::string terminalesJson(Estado const& estado) {
+std::string terminalesJson(MiradaDeTerminales const& mirada) {
   EscritorJson json;
   auto const resuelta = [&] {
-    json.campo("identificador", estado.resuelta->terminal->identificador());
-    json.campo("origen", textoCrudo(estado.resuelta->origen));
+    json.campo("identificador", mirada.resuelta->terminal->identificador());
+    json.campo("origen", textoCrudo(mirada.resuelta->origen));
   };
   json.objeto([&] {
     json.lista("terminales", [&] {
-      for (auto const& terminal : estado.conocidas) {
+      for (auto const& terminal : mirada.catalogo.conocidas) {
         json.objeto([&] {
           json.campo("identificador", terminal->identificador());
           json.campo("nombre", terminal->nombre());
-          json.campo("instalada", terminal->estaInstalada());
+          json.campo("instalada", mirada.estaInstalada(terminal));
           json.campo("puedeEnfocar", terminal->puedeEnfocar());
         });
       }
     });
-    json.campo("eleccion", estado.eleccion);
-    json.campo("manejador", estado.manejador);
-    json.campo("manejadorDichoPor", estado.dichoPor);
+    json.campo("eleccion", mirada.eleccion.value_or(std::nullopt));
+    json.campo("manejador", mirada.sistema.aplicacion);
+    json.campo("manejadorDichoPor", mirada.sistema.dichoPor);
     json.clave("resuelta");
-    if (estado.resuelta) {
+    if (mirada.resuelta) {
       json.objeto(resuelta);
     } else {
       json.valor(std::nullopt);
     }
     json.lista("errores", [&] {
-      if (estado.aviso) agregar(json, *estado.aviso);
-      if (!estado.resuelta) agregar(json, estado.resuelta.error());
+      if (!mirada.eleccion) agregar(json, mirada.eleccion.error());
+      if (!mirada.resuelta) agregar(json, errorDe(mirada.resuelta.error()));
     });
   });
   return json.hecho();
@@ -78,32 +61,30 @@ std::string_view razon(OrigenDeLaTerminal origen) {
   return "sessions open here: the only one installed";
 }
 
-std::string notaDe(Estado const& estado, TerminalRef const& terminal) {
-  if (estado.resuelta && estado.resuelta->terminal == terminal) {
-    auto const origen = estado.resuelta->origen;
-    auto nota = std::string{razon(origen)};
-    if (origen == OrigenDeLaTerminal::manejadorDelSistema && estado.dichoPor) {
-      nota += " (" + *estado.dichoPor + ")";
-    }
-    return nota;
+std::string notaDe(MiradaDeTerminales const& mirada, TerminalRef const& terminal) {
+  if (mirada.resuelta && mirada.resuelta->terminal == terminal) {
+    auto const quien = mirada.dichoPor();
+    return std::string{razon(mirada.resuelta->origen)} + (quien ? " (" + *quien + ")" : "");
   }
-  if (estado.eleccion && buscarTerminal(*estado.eleccion, {terminal})) return "your choice";
+  auto const eleccion = mirada.eleccion.value_or(std::nullopt);
+  if (eleccion && buscarTerminal(*eleccion, {terminal})) return "your choice";
   return {};
 }
 
-std::string terminalesParaPersonas(Estado const& estado, Pantalla const& pantalla) {
+std::string terminalesParaPersonas(MiradaDeTerminales const& mirada, Pantalla const& pantalla) {
   constexpr std::string_view tenue = "2";
   constexpr std::string_view verde = "1;32";
   Columna nombres;
   Columna identificadores{.prescindible = 1, .colores = {tenue}};
   Columna instaladas{.prescindible = 2};
   Columna notas{.corte = Corte::alFinal, .colores = {verde}};
-  for (auto const& terminal : estado.conocidas) {
+  for (auto const& terminal : mirada.catalogo.conocidas) {
     nombres.celdas.push_back(terminal->nombre());
     identificadores.celdas.push_back(terminal->identificador());
-    instaladas.celdas.emplace_back(terminal->estaInstalada() ? "installed" : "not installed");
-    instaladas.colores.push_back(terminal->estaInstalada() ? "" : tenue);
-    notas.celdas.push_back(notaDe(estado, terminal));
+    bool const instalada = mirada.estaInstalada(terminal);
+    instaladas.celdas.emplace_back(instalada ? "installed" : "not installed");
+    instaladas.colores.push_back(instalada ? "" : tenue);
+    notas.celdas.push_back(notaDe(mirada, terminal));
   }
   return tabla({std::move(nombres), std::move(identificadores), std::move(instaladas), std::move(notas)},
                pantalla);
@@ -113,11 +94,13 @@ void mostrar(Contexto& contexto, bool json) {
   auto const home = hogarDe("");
   if (!home) return terminarCon(contexto, Contexto::fallo, home.error());
   auto const servicios = serviciosDeTerminal(*home);
-  auto const estado = estadoDe(servicios);
-  if (json) return escribir(contexto, terminalesJson(estado));
-  escribir(contexto, terminalesParaPersonas(estado, pantallaDeSalida()));
-  if (estado.aviso) avisar(lineaDeAviso(contexto, *estado.aviso));
-  if (!estado.resuelta) avisar(lineaDeAviso(contexto, estado.resuelta.error()));
+  auto fuentes = servicios.apertura.fuentes;
+  if (json) fuentes.voces = {};
+  auto const mirada = mirar(fuentes);
+  if (json) return escribir(contexto, terminalesJson(mirada));
+  escribir(contexto, terminalesParaPersonas(mirada, pantallaDeSalida()));
+  if (!mirada.eleccion) avisar(lineaDeAviso(mirada.eleccion.error()));
+  if (!mirada.resuelta) avisar(lineaDeAviso(errorDe(mirada.resuelta.error())));
 }
 
 }  // namespace

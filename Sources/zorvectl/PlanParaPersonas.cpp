@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "ZorveApp/Textos.h"
-#include "ZorveCore/TextoVisible.h"
+#include "ZorveApp/Apertura.h"
+#include "ZorveCore/Texto/TextoVisible.h"
 #include "zorvectl/EscritorJson.h"
 
 namespace zorve::ctl {
@@ -39,20 +39,9 @@ std::string comandoParaPersonas(ComandoDeApertura const& comando, bool color) {
 
 }  // namespace
 
-std::string avisoSinEnfoque(Contexto const& contexto, NoSePuedeEnfocar const& plan,
-                            Terminal const& terminal) {
-  Textos const textos{Idioma::en};
-  auto frase =
-      plan.tty ? textos.vivaSinEnfoque(*plan.tty, terminal.nombre()) : std::string{textos.vivaSinTty};
-  constexpr std::string_view atajoDelPanel = " ⌘C copies its id.";
-  if (frase.ends_with(atajoDelPanel)) frase.resize(frase.size() - atajoDelPanel.size());
-  return contexto.textoPropio(frase);
-}
-
-std::string planParaPersonas(Contexto const& contexto, PlanDeApertura const& plan, Terminal const& terminal,
-                             Pantalla const& pantalla) {
+std::string planParaPersonas(PlanDeApertura const& plan, Terminal const& terminal, Pantalla const& pantalla) {
   if (auto const* sinEnfoque = std::get_if<NoSePuedeEnfocar>(&plan)) {
-    return textoVisible(avisoSinEnfoque(contexto, *sinEnfoque, terminal)) + "\n";
+    return textoVisible(razonDe(*sinEnfoque, terminal, Textos{Idioma::en})) + "\n";
   }
   std::string texto;
   for (auto const& comando : std::get<std::vector<ComandoDeApertura>>(plan)) {

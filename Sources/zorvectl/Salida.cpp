@@ -7,9 +7,9 @@
 #include <cstdio>
 #include <string>
 
-#include "ZorveCore/Entero.h"
 #include "ZorveCore/FalloDelSistema.h"
-#include "ZorveCore/TextoVisible.h"
+#include "ZorveCore/Texto/Entero.h"
+#include "ZorveCore/Texto/TextoVisible.h"
 #include "ZorvePlatform/Posix/Variable.h"
 
 namespace zorve::ctl {

@@ -4,7 +4,7 @@
 #include <numeric>
 #include <optional>
 
-#include "ZorveCore/TextoVisible.h"
+#include "ZorveCore/Texto/TextoVisible.h"
 
 namespace zorve::ctl {
 

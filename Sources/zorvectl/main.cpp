@@ -1,20 +1,14 @@
 #include <clocale>
 #include <exception>
 
-#include "ZorveApp/TextosDeEscritorio.h"
 #include "ZorvePlatform/Posix/ArchivosPosix.h"
-#include "ZorvePlatform/Posix/SenalesDeHijos.h"
+#include "ZorvePlatform/Posix/ProcesoHijo.h"
 #include "ZorvePlatform/Posix/VidaDeProcesosPosix.h"
+#include "ZorvePlatform/ServiciosDeTerminal.h"
 #include "zorvectl/Ordenes.h"
 #include "zorvectl/Salida.h"
 
 namespace {
-
-#if defined(__APPLE__)
-std::string textoPropio(std::string_view texto) { return std::string{texto}; }
-#else
-std::string textoPropio(std::string_view texto) { return zorve::textoDeEscritorio(texto); }
-#endif
 
 void agregarOrdenes(CLI::App& app, zorve::ctl::Contexto& contexto) {
   zorve::ctl::agregarOrdenList(app, contexto);
@@ -27,7 +21,7 @@ void agregarOrdenes(CLI::App& app, zorve::ctl::Contexto& contexto) {
 int correr(int cuantos, char** palabras) {
   zorve::ArchivosPosix archivos;
   zorve::VidaDeProcesosPosix procesos;
-  zorve::ctl::Contexto contexto{.archivos = archivos, .procesos = procesos, .textoPropio = textoPropio};
+  zorve::ctl::Contexto contexto{.archivos = archivos, .procesos = procesos, .voces = zorve::vocesDeAqui()};
   CLI::App app{"Lists Claude Code sessions and opens them in a terminal.", "zorvectl"};
   app.set_version_flag("--version", "zorvectl " ZORVE_VERSION);
   app.require_subcommand(1);

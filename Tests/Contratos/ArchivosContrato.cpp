@@ -256,14 +256,18 @@ TYPED_TEST(ArchivosContrato, existeSigueLosEnlaces) {
   this->mundo.enlazar("aFifo", "fifo");
   this->mundo.enlazar("aNada", "nada");
   for (auto const* const nombre : {"a", "fifo", "aArchivo", "aFifo"}) {
-    EXPECT_TRUE(existe(this->mundo.archivos, this->en(nombre))) << nombre;
+    EXPECT_TRUE(this->mundo.archivos.existe(this->en(nombre))) << nombre;
   }
-  for (auto const* const nombre : {"nada", "nada/b", "a/b", "aNada"}) {
-    EXPECT_FALSE(existe(this->mundo.archivos, this->en(nombre))) << nombre;
+  this->mundo.enlazar("bucle", "bucle");
+  this->mundo.enlazar("uno", "otro");
+  this->mundo.enlazar("otro", "uno");
+  for (auto const* const nombre : {"nada", "nada/b", "a/b", "aNada", "bucle", "bucle/b", "uno"}) {
+    EXPECT_FALSE(this->mundo.archivos.existe(this->en(nombre))) << nombre;
   }
+  EXPECT_FALSE(this->mundo.archivos.existe(this->en("a") + std::string{"\0b", 2}));
 }
 
-TEST(ArchivosPosix, sinPermisoNoSeAbreNiSeListaPeroHayQueContarlo) {
+TEST(ArchivosPosix, sinPermisoNoSeAbreNiSeListaNiHayNadaDetras) {
   MundoPosix mundo;
   mundo.escribir("a", "uno");
   mundo.escribir("c/b", "dos");
@@ -273,7 +277,16 @@ TEST(ArchivosPosix, sinPermisoNoSeAbreNiSeListaPeroHayQueContarlo) {
   EXPECT_EQ(mundo.archivos.abrir(mundo.en("a")).error().codigo, EACCES);
   EXPECT_EQ(mundo.archivos.listar(mundo.en("c")).error().codigo, EACCES);
   EXPECT_EQ(mundo.archivos.atributos(mundo.en("c/b")).error().codigo, EACCES);
-  EXPECT_TRUE(existe(mundo.archivos, mundo.en("c/b")));
+  EXPECT_TRUE(mundo.archivos.existe(mundo.en("a")));
+  EXPECT_FALSE(mundo.archivos.existe(mundo.en("c/b")));
+}
+
+TEST(ArchivosPosix, unNombreDemasiadoLargoNoExiste) {
+  MundoPosix mundo;
+  EXPECT_FALSE(mundo.archivos.existe(mundo.en(std::string(300, 'x'))));
+  std::string honda = mundo.en("a");
+  while (honda.size() < 5000) honda += "/a";
+  EXPECT_FALSE(mundo.archivos.existe(honda));
 }
 
 TEST(ArchivosPosix, unSocketYUnDispositivoNoSonArchivos) {

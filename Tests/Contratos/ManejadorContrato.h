@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "Dobles/CarpetaTemporal.h"
-#include "ZorveCore/ManejadorDelSistema.h"
+#include "ZorveCore/Terminales/ManejadorDelSistema.h"
 
 namespace zorve::contratos {
 
@@ -33,33 +33,25 @@ class ContratoDelManejador : public testing::TestWithParam<std::pair<char const*
 };
 
 TEST_P(ContratoDelManejador, diceLaAplicacionDelTipo) {
-  EXPECT_EQ(sistema("kitty")->aplicacionPara(tipoConocido), "kitty");
+  EXPECT_EQ(sistema("kitty")->preguntar(tipoConocido).aplicacion, "kitty");
 }
 
 TEST_P(ContratoDelManejador, sinAplicacionNoHayRespuestaNiQuienLaDe) {
   auto const ninguna = sistema(std::nullopt);
-  EXPECT_EQ(ninguna->aplicacionPara(tipoConocido), std::nullopt);
-  EXPECT_EQ(ninguna->dichoPor(tipoConocido), std::nullopt);
+  EXPECT_EQ(ninguna->preguntar(tipoConocido), RespuestaDelSistema{});
 }
 
 TEST_P(ContratoDelManejador, unTipoDesconocidoNoTieneAplicacion) {
   auto const suyo = sistema("kitty");
   for (std::string_view const tipo :
        {"", "public.plain-text", "com.apple.terminal.shell-script ", "com.apple.terminal", "*"}) {
-    EXPECT_EQ(suyo->aplicacionPara(tipo), std::nullopt) << tipo;
-    EXPECT_EQ(suyo->dichoPor(tipo), std::nullopt) << tipo;
+    EXPECT_EQ(suyo->preguntar(tipo), RespuestaDelSistema{}) << tipo;
   }
 }
 
 TEST_P(ContratoDelManejador, preguntarDosVecesDaLoMismo) {
   auto const suyo = sistema("kitty");
-  EXPECT_EQ(suyo->aplicacionPara(tipoConocido), suyo->aplicacionPara(tipoConocido));
-}
-
-TEST_P(ContratoDelManejador, mirarOtraVezNoCambiaLoQueNoHaCambiado) {
-  auto const suyo = sistema("kitty");
-  suyo->mirar();
-  EXPECT_EQ(suyo->aplicacionPara(tipoConocido), "kitty");
+  EXPECT_EQ(suyo->preguntar(tipoConocido), suyo->preguntar(tipoConocido));
 }
 
 }  // namespace zorve::contratos

@@ -5,8 +5,8 @@
 #include <limits>
 #include <stdexcept>
 
+#include "Dobles/ComoOtroUsuario.h"
 #include "Dobles/ProcesosFijos.h"
-#include "Dobles/SinPrivilegios.h"
 #include "ZorvePlatform/Posix/VidaDeProcesosPosix.h"
 
 namespace zorve {
@@ -84,9 +84,9 @@ TYPED_TEST(VidaDeProcesosContrato, unPidQueNadieTieneNoVive) {
 }
 
 TEST(VidaDeProcesosPosix, unProcesoDeOtroUsuarioVive) {
-  dobles::SinPrivilegios const sinPrivilegios;
-  VidaDeProcesosPosix procesos;
-  EXPECT_TRUE(procesos.vive(1));
+  EXPECT_TRUE(dobles::comoOtroUsuario([] { return ::kill(1, 0) != 0 && VidaDeProcesosPosix{}.vive(1); }));
+  EXPECT_TRUE(dobles::comoOtroUsuario(
+      [] { return !VidaDeProcesosPosix{}.vive(std::numeric_limits<std::int32_t>::max()); }));
 }
 
 }  // namespace

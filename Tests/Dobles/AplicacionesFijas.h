@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "ZorveCore/AplicacionesInstaladas.h"
+#include "ZorveCore/Terminales/AplicacionesInstaladas.h"
 
 namespace zorve::dobles {
 

@@ -224,6 +224,11 @@ std::expected<std::vector<std::string>, FalloDelSistema> ArchivosDeMemoria::list
   return nombres;
 }
 
+bool ArchivosDeMemoria::existe(std::string const& ruta) {
+  std::scoped_lock const cerrojo{mutex_};
+  return fallos_[ruta].atributos == 0 && resolver(ruta, true).has_value();
+}
+
 std::expected<std::size_t, FalloDelSistema> ArchivosDeMemoria::leer(std::string const& ruta, Nodo const& nodo,
                                                                     std::int64_t desde,
                                                                     std::span<char> destino) {

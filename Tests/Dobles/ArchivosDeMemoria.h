@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ZorveCore/Archivos.h"
+#include "ZorveCore/Lectura/Archivos.h"
 
 namespace zorve::dobles {
 
@@ -45,6 +45,7 @@ class ArchivosDeMemoria final : public Archivos {
 
   /// From now on the operation on exactly this path fails with an errno value; 0 takes that back.
   void fallarAlAbrir(std::string const& ruta, int codigo);
+  /// What has no attributes does not exist either.
   void fallarAtributos(std::string const& ruta, int codigo);
   void fallarAlListar(std::string const& ruta, int codigo);
   void fallarTamano(std::string const& ruta, int codigo);
@@ -64,6 +65,7 @@ class ArchivosDeMemoria final : public Archivos {
   [[nodiscard]] std::expected<Atributos, FalloDelSistema> atributos(std::string const& ruta) override;
   [[nodiscard]] std::expected<std::vector<std::string>, FalloDelSistema> listar(
       std::string const& ruta) override;
+  [[nodiscard]] bool existe(std::string const& ruta) override;
 
  private:
   struct Nodo;

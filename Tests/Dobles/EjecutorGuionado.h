@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "ZorveCore/Ejecutor.h"
+#include "ZorveCore/Terminales/Ejecutor.h"
 
 namespace zorve::dobles {
 

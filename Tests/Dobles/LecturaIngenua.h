@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "ZorveCore/RegistroJson.h"
-#include "ZorveCore/Texto.h"
-#include "ZorveCore/TranscriptScanner.h"
+#include "ZorveCore/Lectura/RegistroJson.h"
+#include "ZorveCore/Lectura/TranscriptScanner.h"
+#include "ZorveCore/Texto/Texto.h"
 
 namespace zorve::dobles {
 

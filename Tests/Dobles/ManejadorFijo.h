@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "ZorveCore/ManejadorDelSistema.h"
+#include "ZorveCore/Terminales/ManejadorDelSistema.h"
 
 namespace zorve::dobles {
 
@@ -14,8 +14,8 @@ class ManejadorFijo final : public ManejadorDelSistema {
   ManejadorFijo(std::string tipo, std::optional<std::string> suyo)
       : identificador{std::move(suyo)}, tipo_{std::move(tipo)} {}
 
-  [[nodiscard]] std::optional<std::string> aplicacionPara(std::string_view tipo) const override {
-    return tipo == tipo_ ? identificador : std::nullopt;
+  [[nodiscard]] RespuestaDelSistema preguntar(std::string_view tipo) const override {
+    return tipo == tipo_ ? RespuestaDelSistema{.aplicacion = identificador} : RespuestaDelSistema{};
   }
 
   std::optional<std::string> identificador;

@@ -5,7 +5,7 @@
 #include <set>
 #include <vector>
 
-#include "ZorveCore/VidaDeProcesos.h"
+#include "ZorveCore/Lectura/VidaDeProcesos.h"
 
 namespace zorve::dobles {
 

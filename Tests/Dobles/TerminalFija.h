@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "ZorveCore/Terminal.h"
+#include "ZorveCore/Terminales/Terminal.h"
 
 namespace zorve::dobles {
 

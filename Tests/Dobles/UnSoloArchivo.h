@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "ZorveCore/Archivos.h"
+#include "ZorveCore/Lectura/Archivos.h"
 
 namespace zorve::dobles {
 
@@ -50,6 +50,7 @@ class UnSoloArchivo final : public Archivos {
       std::string const& /*ruta*/) override {
     return std::unexpected{FalloDelSistema::deErrno(ENOTDIR)};
   }
+  [[nodiscard]] bool existe(std::string const& /*ruta*/) override { return true; }
 
  private:
   class Abierto final : public ArchivoAbierto {

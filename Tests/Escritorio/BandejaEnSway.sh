@@ -22,7 +22,7 @@ pide() {
 pide ProvideXdgActivationToken del-clic
 pide Activate 0 0
 espera panel_con_teclado_en_sway
-espera grep -q 'xdg_activation_v1@.*activate("del-clic"' "$casa/zorve.err"
+espera grep -q 'xdg_activation_v1[@#].*activate("del-clic"' "$casa/zorve.err"
 arranca otra foot sleep 300
 espera con_teclado_en_sway foot
 espera no panel_en_sway

@@ -8,9 +8,7 @@
 escritorio lista
 portal
 hsetroot -solid '#ff0000'
-arranca picom picom --backend xrender --config /dev/null
-compuesto() { xprop -root _NET_WM_CM_S0 || xdotool search --name picom; }
-espera compuesto
+compositor
 zorve
 muestra
 esquina_roja() { [ "$(cuantos_pixeles_de_pantalla '#ff0000' "2x2+$1")" -ge 1 ]; }

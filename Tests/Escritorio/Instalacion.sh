@@ -15,6 +15,10 @@ desktop-file-validate "$entrada" >"$casa/valida.out" || fallo "the desktop entry
 for icono in scalable/apps/com.sarnol.zorve symbolic/apps/com.sarnol.zorve-symbolic; do
   [ -s "$prefijo/share/icons/hicolor/$icono.svg" ] || fallo "no icon $icono"
 done
+extension=$prefijo/share/gnome-shell/extensions/zorve-windows@sarnol.com
+jq -e '.uuid == "zorve-windows@sarnol.com" and (."shell-version" | length > 0)' "$extension/metadata.json" >/dev/null ||
+  fallo "the extension of GNOME Shell: $(cat "$extension/metadata.json")"
+[ -s "$extension/extension.js" ] || fallo "no code of the extension"
 
 escritorio lista
 lector

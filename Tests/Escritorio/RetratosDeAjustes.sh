@@ -10,20 +10,34 @@ guardados=$aqui/../Datos/retratos
 peor=0.02
 mal=0
 
-# retrato NAME [WINDOW]: the settings as they are now, or that window.
+# fotografia NAME WINDOW: as it is now, in full size and small.
+fotografia() {
+  import -silent -window "$2" "$casa/grande.png"
+  convert "$casa/grande.png" -strip -resize 155x115! "$casa/$1.png"
+}
+distancia() { compare -metric RMSE "$casa/$1.png" "$guardados/ajustes-$1.png" null: 2>&1 | sed -E 's/.*\((.*)\)/\1/' || :; }
+cerca() { awk -v d="$1" -v p="$peor" 'BEGIN { exit !(d ~ /^[0-9]/ && d <= p) }'; }
+
+# retrato NAME [WINDOW]: the settings as they are now, or that window. A caret comes and goes: what differs is looked at
+# again for as long as it blinks.
 retrato() {
-  local chico=$casa/$1.png guardado=$guardados/ajustes-$1.png distancia
+  local ventana lejos i
+  ventana=${2:-$(ajustes)}
   sleep 0.3
-  import -silent -window "${2:-$(ajustes)}" "$casa/grande.png"
+  fotografia "$1" "$ventana"
   [ -z "${RETRATOS_EN:-}" ] || cp "$casa/grande.png" "$RETRATOS_EN/ajustes-$1.png"
-  convert "$casa/grande.png" -strip -resize 155x115! "$chico"
   if [ "${RETRATOS:-}" = guarda ]; then
-    cp "$chico" "$guardado"
+    cp "$casa/$1.png" "$guardados/ajustes-$1.png"
     return
   fi
-  distancia=$(compare -metric RMSE "$chico" "$guardado" null: 2>&1 | sed -E 's/.*\((.*)\)/\1/') || :
-  echo "$1: $distancia"
-  awk -v d="$distancia" -v p="$peor" 'BEGIN { exit !(d ~ /^[0-9]/ && d <= p) }' || mal=1
+  for i in 1 2 3 4 5 6 7 8 9; do
+    lejos=$(distancia "$1")
+    echo "$1, look $i: $lejos"
+    cerca "$lejos" && return
+    sleep 0.15
+    fotografia "$1" "$ventana"
+  done
+  mal=1
 }
 
 escritorio lista

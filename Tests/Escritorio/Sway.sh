@@ -15,7 +15,7 @@ export PATH=$casa/bin:$PATH
 "$bin/zorvectl" choose foot
 teclado
 WAYLAND_DEBUG=client zorve
-activada_con() { grep -q "xdg_activation_v1@.*activate(\"$1\"" "$casa/zorve.err"; }
+activada_con() { grep -q "xdg_activation_v1[@#].*activate(\"$1\"" "$casa/zorve.err"; }
 
 XDG_ACTIVATION_TOKEN=el-de-quien-llama segundo
 espera panel_con_teclado_en_sway

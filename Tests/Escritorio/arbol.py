@@ -12,7 +12,9 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
 
-ESTADOS = ["focused", "focusable", "selected", "selectable", "checked", "checkable", "editable"]
+ESTADOS = ["focused", "focusable", "selected", "selectable", "checked", "editable"]
+# What newer versions call what older ones called otherwise.
+PAPELES = {"button": "push button"}
 
 
 def estados(nodo):
@@ -20,11 +22,16 @@ def estados(nodo):
     return [e for e in ESTADOS if conjunto.contains(getattr(Atspi.StateType, e.upper()))]
 
 
+def papel(nodo):
+    nombre = nodo.get_role_name()
+    return PAPELES.get(nombre, nombre)
+
+
 def cuenta(nodo, hondo):
     if not nodo.get_state_set().contains(Atspi.StateType.VISIBLE) and hondo > 0:
         return
     descripcion = nodo.get_description()
-    partes = ["  " * hondo + nodo.get_role_name(), '"' + nodo.get_name() + '"']
+    partes = ["  " * hondo + papel(nodo), '"' + nodo.get_name() + '"']
     if descripcion:
         partes.append("(" + descripcion + ")")
     if estados(nodo):
@@ -56,7 +63,7 @@ def pulsa(nodo, nombre):
 def oye():
     def leido(aviso):
         if aviso.detail1:
-            print(f'{aviso.source.get_role_name()} "{aviso.source.get_name()}"', flush=True)
+            print(f'{papel(aviso.source)} "{aviso.source.get_name()}"', flush=True)
 
     oyente = Atspi.EventListener.new(leido)
     oyente.register("object:state-changed:focused")

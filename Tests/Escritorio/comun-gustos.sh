@@ -2,12 +2,8 @@
 # shellcheck disable=SC2154 # comun.sh sets them
 # What the tests of desktop settings and screen readers share beside comun.sh.
 
-# portal: the desktop's settings as programs ask for them, kept by gsettings. No file-sharing service beside it.
+# portal: the desktop's settings as programs ask for them, kept by gsettings.
 portal() {
-  mkdir -p "$XDG_DATA_HOME/dbus-1/services"
-  printf '[D-BUS Service]\nName=org.freedesktop.portal.Documents\nExec=/bin/false\n' \
-    >"$XDG_DATA_HOME/dbus-1/services/org.freedesktop.portal.Documents.service"
-  dbus-send --session --dest=org.freedesktop.DBus / org.freedesktop.DBus.ReloadConfig
   export XDG_CURRENT_DESKTOP=GNOME
   arranca portal-gtk /usr/libexec/xdg-desktop-portal-gtk
   espera tiene_nombre org.freedesktop.impl.portal.desktop.gtk

@@ -101,6 +101,10 @@ hogar() {
   mkdir -p "$casa/run" "$casa/.config/com.sarnol.zorve"
   chmod 700 "$casa/run"
   export HOME=$casa XDG_CONFIG_HOME=$casa/.config XDG_RUNTIME_DIR=$casa/run XDG_DATA_HOME=$casa/.local/share
+  # No file-sharing service, which would mount a folder in the home.
+  mkdir -p "$XDG_DATA_HOME/dbus-1/services"
+  printf '[D-BUS Service]\nName=org.freedesktop.portal.Documents\nExec=/bin/false\n' \
+    >"$XDG_DATA_HOME/dbus-1/services/org.freedesktop.portal.Documents.service"
   unset XDG_CURRENT_DESKTOP XDG_SESSION_TYPE WAYLAND_DISPLAY LC_ALL
   export LANG=C.UTF-8
   "$raiz/Scripts/casa-de-muestra.sh" "$casa" $$ "$1"
@@ -122,6 +126,14 @@ gestor() {
   empieza_gestor
   espera hay_gestor_o_empieza
 }
+
+# compositor: windows are translucent from here on. Without tracking what changed: over an unaccelerated server recent
+# versions then draw the backdrop over all that lies between two changes.
+compositor() {
+  arranca picom picom --backend xrender --no-use-damage --config /dev/null
+  espera hay_compositor
+}
+hay_compositor() { xprop -root _NET_WM_CM_S0 | grep -q 'window id' || xdotool search --name picom; }
 
 preferencias() { printf '%s\n' "$1" >"$casa/.config/com.sarnol.zorve/preferences.json"; }
 
@@ -188,6 +200,21 @@ se_copia() {
 }
 # copiado_es N: Control+C copies the identifier of the sample's session N.
 copiado_es() { se_copia "$(printf '%08d-5e55-4000-8000-%012d' "$1" "$1")"; }
+
+# casos "$@": at the end of a script of several tests, each a function prueba_SENTENCE with a desktop of its own: runs
+# the one that is named, or each by itself.
+casos() {
+  local cada mal=0
+  if [ $# -gt 0 ]; then
+    "prueba_$1"
+    return
+  fi
+  for cada in $(compgen -A function prueba_); do
+    echo "${cada#prueba_}" >&2
+    bash "$0" "${cada#prueba_}" || mal=1
+  done
+  return "$mal"
+}
 
 # shellcheck source=Tests/Escritorio/comun-bandejas.sh
 . "$aqui/comun-bandejas.sh"

@@ -18,13 +18,13 @@ TEST(AplicacionesMac, unIdentificadorDeNadieNoEsta) {
 }
 
 TEST(ManejadorMac, losGuionesDeShellTienenQuienLosAbra) {
-  auto const quien = ManejadorMac{}.aplicacionPara("com.apple.terminal.shell-script");
+  auto const quien = ManejadorMac{}.preguntar("com.apple.terminal.shell-script").aplicacion;
   ASSERT_TRUE(quien.has_value());
   EXPECT_TRUE(AplicacionesMac{}.hay(*quien));
 }
 
 TEST(ManejadorMac, unTipoQueElSistemaNoConoceNoTieneNadie) {
-  EXPECT_EQ(ManejadorMac{}.aplicacionPara("com.sarnol.tipo.que.no.existe"), std::nullopt);
+  EXPECT_EQ(ManejadorMac{}.preguntar("com.sarnol.tipo.que.no.existe"), RespuestaDelSistema{});
 }
 
 TEST(DirectorioHogarMac, esAbsolutoYSinBarraFinal) {

@@ -8,9 +8,9 @@
 #include "Dobles/AplicacionesFijas.h"
 #include "Terminales/CadaTerminal.h"
 #include "Terminales/Escritorio.h"
-#include "ZorveCore/Escape.h"
-#include "ZorveCore/FichaDeTerminal.h"
-#include "ZorveCore/TerminalDeLinux.h"
+#include "ZorveCore/Terminales/FichaDeTerminal.h"
+#include "ZorveCore/Terminales/TerminalDeLinux.h"
+#include "ZorveCore/Texto/Escape.h"
 
 namespace zorve::pruebas {
 namespace {
@@ -33,13 +33,13 @@ std::vector<std::string> directoriosHostiles() {
           raro};
 }
 
-class CadaTerminal : public testing::TestWithParam<FichaDeTerminal> {
+class CadaTerminal : public DeUnTerminal {
  protected:
   /// Whether the driver knows one of the processes that the session descends from as its own, by what ps
   /// says.
   static bool laHospeda(Escritorio const& escritorio, pid_t pid) {
     dobles::AplicacionesFijas const ninguna;
-    TerminalDeLinux const terminal{GetParam(), ninguna, "", SesionGrafica::otra};
+    TerminalDeLinux const terminal{GetParam(), ninguna, "", [] { return SesionGrafica::otra; }};
     for (; pid > 1; pid = procesoDe(pid).padre) {
       auto const comm = escritorio.correr({"ps", "-o", "comm=", "-p", std::to_string(pid)}).salida;
       if (terminal.hospeda(comm.substr(0, comm.find('\n')))) return true;
@@ -69,13 +69,11 @@ INSTANTIATE_TEST_SUITE_P(Linux, CadaTerminal,
                          nombreDelTerminal);
 
 TEST_P(CadaTerminal, abreEnElDirectorioYEntregaLosArgumentosByteAByte) {
-  if (!estaAqui(GetParam())) return;
   EscritorioDe const escritorio{GetParam()};
   abreEn(escritorio, raro);
 }
 
 TEST_P(CadaTerminal, sinPantallaFallaConSusPropiasPalabrasEnTresSegundos) {
-  if (!estaAqui(GetParam())) return;
   EscritorioDe const escritorio{GetParam(), Escritorio::Pantalla::ninguna};
   auto const empieza = std::chrono::steady_clock::now();
   auto const corrida =
@@ -89,7 +87,6 @@ TEST_P(CadaTerminal, sinPantallaFallaConSusPropiasPalabrasEnTresSegundos) {
 }
 
 TEST_P(CadaTerminal, largoSinBusDeSesionAbreOFallaConSusPropiasPalabrasEnTresSegundos) {
-  if (!conLosLargos() || !estaAqui(GetParam())) return;
   EscritorioDe escritorio{GetParam()};
   escritorio.variables["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=" + escritorio.casa().dentro("nada");
   auto const empieza = std::chrono::steady_clock::now();
@@ -107,7 +104,6 @@ TEST_P(CadaTerminal, largoSinBusDeSesionAbreOFallaConSusPropiasPalabrasEnTresSeg
 }
 
 TEST_P(CadaTerminal, largoAbreEnCadaDirectorioHostilConCadaGestorDeVentanas) {
-  if (!conLosLargos() || !estaAqui(GetParam())) return;
   for (auto const* const gestor : {"openbox", "xfwm4"}) {
     EscritorioDe const escritorio{GetParam(), gestor};
     for (auto const& nombre : directoriosHostiles()) abreEn(escritorio, nombre);
@@ -115,7 +111,7 @@ TEST_P(CadaTerminal, largoAbreEnCadaDirectorioHostilConCadaGestorDeVentanas) {
 }
 
 TEST(Foot, dondeUnoEsperaLaVentanaEsSuya) {
-  if (!estaAqui(*fichaDeLinux("foot"))) return;
+  if (auto const& foot = *fichaDeLinux("foot"); !estaAqui(foot)) GTEST_SKIP() << noEstaAqui(foot);
   Escritorio const escritorio{Escritorio::Pantalla::wayland};
   auto const servidor = escritorio.empezar({"foot", "--server"});
   auto const zocalo =

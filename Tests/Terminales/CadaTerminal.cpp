@@ -1,12 +1,9 @@
 #include "Terminales/CadaTerminal.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
-#include <iostream>
 #include <iterator>
 #include <sstream>
-#include <string_view>
 
 namespace zorve::pruebas {
 
@@ -26,16 +23,11 @@ Proceso procesoDe(pid_t pid) {
   return proceso;
 }
 
-bool conLosLargos() {
-  char const* const valor = std::getenv("ZORVE_LARGOS");
-  return valor != nullptr && std::string_view{valor} == "si";
+bool estaAqui(FichaDeTerminal const& ficha) {
+  return programaInstalado(ficha.esCualquierOtra ? terminalDesconocida : ficha.programas.front()).has_value();
 }
 
-bool estaAqui(FichaDeTerminal const& ficha) {
-  if (programaInstalado(ficha.esCualquierOtra ? terminalDesconocida : ficha.programas.front())) return true;
-  std::cout << "skipped: " << ficha.nombre << " is not installed here\n";
-  return false;
-}
+std::string noEstaAqui(FichaDeTerminal const& ficha) { return ficha.nombre + " is not installed here"; }
 
 EscritorioDe::EscritorioDe(FichaDeTerminal const& ficha, std::string const& gestorDeVentanas)
     : EscritorioDe{ficha, ficha.identificador == "foot" ? Pantalla::wayland : Pantalla::x11,

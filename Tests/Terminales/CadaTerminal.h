@@ -6,7 +6,7 @@
 #include <sys/types.h>
 
 #include "Terminales/Escritorio.h"
-#include "ZorveCore/FichaDeTerminal.h"
+#include "ZorveCore/Terminales/FichaDeTerminal.h"
 
 namespace zorve::pruebas {
 
@@ -18,11 +18,19 @@ struct Proceso {
 
 [[nodiscard]] Proceso procesoDe(pid_t pid);
 
-/// Whether the long tests run too (./test --all).
-[[nodiscard]] bool conLosLargos();
-
-/// Whether this machine has the terminal; says by name that it is skipped when it has not.
+/// Whether this machine has the terminal.
 [[nodiscard]] bool estaAqui(FichaDeTerminal const& ficha);
+
+/// Why a test of it does not run where it has not.
+[[nodiscard]] std::string noEstaAqui(FichaDeTerminal const& ficha);
+
+/// A test of one terminal, which does not run where that is not installed.
+class DeUnTerminal : public testing::TestWithParam<FichaDeTerminal> {
+ protected:
+  void SetUp() override {
+    if (!estaAqui(GetParam())) GTEST_SKIP() << noEstaAqui(GetParam());
+  }
+};
 
 /// A desktop that the terminal can be tried on: foot speaks Wayland alone; x-terminal-emulator leads to
 /// urxvt, which the table does not know.

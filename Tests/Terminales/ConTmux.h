@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "Terminales/Escritorio.h"
-#include "ZorveCore/Escape.h"
+#include "ZorveCore/Texto/Escape.h"
 
 namespace zorve::pruebas {
 

@@ -11,18 +11,18 @@
 
 #include "Dobles/Pseudoterminal.h"
 #include "Terminales/Sesiones.h"
+#include "ZorveTerminal/SesionEnTty.h"
 
 namespace zorve::pruebas {
 namespace {
 
-class DosVentanas : public testing::TestWithParam<FichaDeTerminal> {
+class DosVentanas : public DeUnTerminal {
  protected:
   explicit DosVentanas(Escritorio::Pantalla pantalla = Escritorio::Pantalla::x11,
                        std::string const& gestor = "openbox")
       : dos{GetParam(), pantalla, gestor} {}
 
-  /// False when the terminal is not installed here.
-  [[nodiscard]] bool abrirlas() { return estaAqui(GetParam()) && dos.abrirVentana() && dos.abrirVentana(); }
+  [[nodiscard]] bool abrirlas() { return dos.abrirVentana() && dos.abrirVentana(); }
 
   void enTodasPartes() {
     dos.laTeclaLlegaSoloA(0, "a");
@@ -38,11 +38,10 @@ class DosVentanas : public testing::TestWithParam<FichaDeTerminal> {
   Sesiones dos;
 };
 
-/// With --all alone.
+/// Under another window manager.
 class DosVentanasLargo : public DosVentanas {
  protected:
-  DosVentanasLargo()
-      : DosVentanas{conLosLargos() ? Escritorio::Pantalla::x11 : Escritorio::Pantalla::ninguna, "xfwm4"} {}
+  DosVentanasLargo() : DosVentanas{Escritorio::Pantalla::x11, "xfwm4"} {}
 };
 
 INSTANTIATE_TEST_SUITE_P(Linux, DosVentanasLargo, testing::ValuesIn(enfocables(SesionGrafica::x11)),
@@ -61,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(Linux, DosVentanasDeSway, testing::ValuesIn(enfocables(
                          nombreDelTerminal);
 
 TEST_P(DosVentanasDeSway, laTeclaLlegaALaSesionEnfocadaTambienDesdeOtroEspacio) {
-  if (!abrirlas()) return;
+  ASSERT_TRUE(abrirlas());
   dos.laTeclaLlegaSoloA(0, "a");
   dos.laTeclaLlegaSoloA(1, "b");
   ASSERT_TRUE(dos.hacer({"swaymsg", "workspace", "9"}));
@@ -70,7 +69,7 @@ TEST_P(DosVentanasDeSway, laTeclaLlegaALaSesionEnfocadaTambienDesdeOtroEspacio) 
 
 TEST(EnfocarEnSway, lasVentanasDelServidorDeFootSeDistinguenPorSuTitulo) {
   auto const& foot = *fichaDeLinux("foot");
-  if (!estaAqui(foot)) return;
+  if (!estaAqui(foot)) GTEST_SKIP() << noEstaAqui(foot);
   Sesiones dos{foot, Escritorio::Pantalla::wayland};
   dos.escritorio.empezar({"foot", "--server"});
   ASSERT_TRUE(esperarA([&] {
@@ -87,15 +86,17 @@ TEST(EnfocarEnSway, lasVentanasDelServidorDeFootSeDistinguenPorSuTitulo) {
 }
 
 TEST_P(DosVentanas, laTeclaLlegaALaSesionEnfocadaDelanteDetrasMinimizadaYEnOtroEscritorio) {
-  if (abrirlas()) enTodasPartes();
+  ASSERT_TRUE(abrirlas());
+  enTodasPartes();
 }
 
 TEST_P(DosVentanasLargo, lasMismasConOtroGestorDeVentanas) {
-  if (conLosLargos() && abrirlas()) enTodasPartes();
+  ASSERT_TRUE(abrirlas());
+  enTodasPartes();
 }
 
 TEST_P(DosVentanas, sinSuVentanaLaSesionYaNoSeEncuentra) {
-  if (!abrirlas()) return;
+  ASSERT_TRUE(abrirlas());
   auto const anfitrion = dos.anfitrionDe(0);
   ASSERT_GT(anfitrion, 1);
   ASSERT_EQ(::kill(anfitrion, SIGKILL), 0);
@@ -105,6 +106,25 @@ TEST_P(DosVentanas, sinSuVentanaLaSesionYaNoSeEncuentra) {
   EXPECT_EQ(corrida.error, "zorve-terminal: Zorve found no " + GetParam().nombre + " session on " +
                                dos.sesiones[0].tty.substr(5) +
                                ". The Claude session is still alive, but its window no longer exists.\n");
+}
+
+TEST(EnfocarEnX, unaVentanaQueDiceSerDeLaSesionNoRecibeElTeclado) {
+  auto const& xterm = *fichaDeLinux("xterm");
+  if (!estaAqui(xterm)) GTEST_SKIP() << noEstaAqui(xterm);
+  Sesiones una{xterm, Escritorio::Pantalla::x11};
+  ASSERT_TRUE(una.abrirVentana());
+  auto const antes = una.ventanas().size();
+  una.escritorio.empezar({"xterm", "-T", "mentirosa", "-e", "sh", "-c", "exec sleep 600"});
+  ASSERT_TRUE(esperarA([&] { return una.ventanas().size() > antes; }));
+  auto const lider = ayudante::liderDelTty(una.sesiones[0].tty);
+  ASSERT_TRUE(lider);
+  for (auto const pid : {lider->pid, lider->padre}) {
+    ASSERT_TRUE(una.hacer({"xprop", "-name", "mentirosa", "-f", "_NET_WM_PID", "32c", "-set", "_NET_WM_PID",
+                           std::to_string(pid)}));
+    una.laTeclaLlegaSoloA(0, pid == lider->pid ? "a" : "b");
+    EXPECT_FALSE(
+        una.escritorio.correr({"xdotool", "getactivewindow", "getwindowname"}).salida.contains("mentirosa"));
+  }
 }
 
 TEST(Enfocar, unTtyQueNoExisteSeDiceEnUnaFrase) {

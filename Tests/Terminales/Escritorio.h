@@ -13,7 +13,7 @@
 
 #include "Dobles/CarpetaTemporal.h"
 #include "Dobles/Correr.h"
-#include "ZorveCore/FichaDeTerminal.h"
+#include "ZorveCore/Terminales/FichaDeTerminal.h"
 
 namespace zorve {
 

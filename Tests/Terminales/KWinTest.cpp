@@ -14,14 +14,21 @@ constexpr char const* seVa = "\033[O";
 /// What an answer to the question for its attributes (DA1) begins with.
 constexpr char const* contesta = "\033[?";
 
+constexpr char const* sinKWin = "KWin is not installed here";
+
+bool hayKWin() { return programaInstalado("kwin_wayland").has_value(); }
+
 /// Two windows under KWin, where nobody else can press keys: their terminals tell each session when it gets
-/// the keyboard and when it loses it (xterm's focus reports). With --all alone.
-class DosVentanasDeKWinLargo : public testing::TestWithParam<FichaDeTerminal> {
+/// the keyboard and when it loses it (xterm's focus reports).
+class DosVentanasDeKWinLargo : public DeUnTerminal {
  protected:
-  static bool toca() { return conLosLargos() && programaInstalado("kwin_wayland"); }
+  void SetUp() override {
+    if (!hayKWin()) GTEST_SKIP() << sinKWin;
+    DeUnTerminal::SetUp();
+  }
 
   DosVentanasDeKWinLargo()
-      : dos{GetParam(), toca() ? Escritorio::Pantalla::kwin : Escritorio::Pantalla::ninguna} {
+      : dos{GetParam(), hayKWin() ? Escritorio::Pantalla::kwin : Escritorio::Pantalla::ninguna} {
     auto const casa = dos.escritorio.casa().ruta();
     dos.escritorio.programa("claude", "n=$(mktemp '" + casa + "/anotados/t.XXXXXX') || exit 1\n" +
                                           "printf '%s\\0' \"$(pwd -P; echo .)\" \"$(tty)\" \"$$\" >\"$n\"\n" +
@@ -56,7 +63,6 @@ INSTANTIATE_TEST_SUITE_P(Linux, DosVentanasDeKWinLargo, testing::ValuesIn(enfoca
                          nombreDelTerminal);
 
 TEST_P(DosVentanasDeKWinLargo, elTecladoPasaALaSesionEnfocadaTambienEnOtroEscritorio) {
-  if (!toca() || !estaAqui(GetParam())) return;
   ASSERT_TRUE(abrir(0) && abrir(1));
   ASSERT_TRUE(esperarA([&] { return dos.teclasDe(0).ends_with(seVa); }))
       << "the second window takes the keyboard";
@@ -70,7 +76,8 @@ TEST_P(DosVentanasDeKWinLargo, elTecladoPasaALaSesionEnfocadaTambienEnOtroEscrit
 
 TEST(KWinLargo, unCompositorDetenidoSeDiceEnUnaFraseEnDiezSegundos) {
   auto const& konsole = *fichaDeLinux("org.kde.konsole");
-  if (!conLosLargos() || !programaInstalado("kwin_wayland") || !estaAqui(konsole)) return;
+  if (!hayKWin()) GTEST_SKIP() << sinKWin;
+  if (!estaAqui(konsole)) GTEST_SKIP() << noEstaAqui(konsole);
   Sesiones una{konsole, Escritorio::Pantalla::kwin};
   ASSERT_TRUE(una.abrirVentana());
   auto const pid = una.escritorio.correr(

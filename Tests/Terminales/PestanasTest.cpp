@@ -79,8 +79,12 @@ class Pestanas : public testing::TestWithParam<Caso> {
   explicit Pestanas(Escritorio::Pantalla pantalla = Escritorio::Pantalla::x11)
       : s{*fichaDeLinux(GetParam().identificador), pantalla} {}
 
+  void SetUp() override {
+    auto const& ficha = *fichaDeLinux(GetParam().identificador);
+    if (!estaAqui(ficha)) GTEST_SKIP() << noEstaAqui(ficha);
+  }
+
   [[nodiscard]] bool abrirlas() {
-    if (!estaAqui(*fichaDeLinux(GetParam().identificador))) return false;
     s.escritorio.casa().escribir(".config/kitty/kitty.conf",
                                  "allow_remote_control yes\nlisten_on unix:@zorve-prueba-{kitty_pid}\n");
     return s.abrirVentana() && GetParam().abrirPestana(s) && s.esperarOtra() && s.abrirVentana();
@@ -109,11 +113,10 @@ INSTANTIATE_TEST_SUITE_P(Linux, Pestanas,
                          testing::Values(konsole, gnomeTerminal, kgx, tilix, enTilix, kitty, enKitty),
                          [](auto const& caso) { return caso.param.nombre; });
 
-/// The same under sway, with --all alone.
+/// The same under sway.
 class PestanasDeSwayLargo : public Pestanas {
  protected:
-  PestanasDeSwayLargo()
-      : Pestanas{conLosLargos() ? Escritorio::Pantalla::wayland : Escritorio::Pantalla::ninguna} {}
+  PestanasDeSwayLargo() : Pestanas{Escritorio::Pantalla::wayland} {}
 };
 
 INSTANTIATE_TEST_SUITE_P(Linux, PestanasDeSwayLargo,
@@ -127,7 +130,7 @@ INSTANTIATE_TEST_SUITE_P(Linux, TerminalDetenida, testing::Values(konsole, gnome
                          [](auto const& caso) { return caso.param.nombre; });
 
 TEST_P(Pestanas, laTeclaLlegaALaPestanaEnfocadaYLosTitulosVuelven) {
-  if (!abrirlas()) return;
+  ASSERT_TRUE(abrirlas());
   s.laTeclaLlegaSoloA(0, "a");
   s.laTeclaLlegaSoloA(2, "b");
   s.laTeclaLlegaSoloA(1, "c");
@@ -140,7 +143,7 @@ TEST_P(Pestanas, laTeclaLlegaALaPestanaEnfocadaYLosTitulosVuelven) {
 }
 
 TEST_P(PestanasDeSwayLargo, laTeclaLlegaALaPestanaEnfocadaTambienDesdeOtroEspacio) {
-  if (!conLosLargos() || !abrirlas()) return;
+  ASSERT_TRUE(abrirlas());
   s.laTeclaLlegaSoloA(0, "a");
   s.laTeclaLlegaSoloA(2, "b");
   s.laTeclaLlegaSoloA(1, "c");
@@ -149,7 +152,7 @@ TEST_P(PestanasDeSwayLargo, laTeclaLlegaALaPestanaEnfocadaTambienDesdeOtroEspaci
 }
 
 TEST_P(TerminalDetenida, seDiceEnUnaFraseYDespuesSeEnfocaComoAntes) {
-  if (!abrirlas()) return;
+  ASSERT_TRUE(abrirlas());
   auto const anfitrion = s.anfitrionDe(0);
   ASSERT_GT(anfitrion, 1);
   ASSERT_EQ(::kill(anfitrion, SIGSTOP), 0);
@@ -170,7 +173,7 @@ TEST_P(TerminalDetenida, seDiceEnUnaFraseYDespuesSeEnfocaComoAntes) {
 /// to.
 TEST(KonsoleDeVariasVentanas, unaPestanaQueCambioDeVentanaSeEncuentraEnLaNueva) {
   auto const& ficha = *fichaDeLinux(konsole.identificador);
-  if (!estaAqui(ficha)) return;
+  if (!estaAqui(ficha)) GTEST_SKIP() << noEstaAqui(ficha);
   Sesiones s{ficha, Escritorio::Pantalla::x11};
   ASSERT_TRUE(s.abrirVentana() && pestanaDeKonsole(s) && s.esperarOtra());
   ASSERT_TRUE(
@@ -187,7 +190,7 @@ TEST(KonsoleDeVariasVentanas, unaPestanaQueCambioDeVentanaSeEncuentraEnLaNueva) 
 /// GNOME Terminal with its search provider switched on, which names sessions.
 TEST(GnomeTerminalConBuscador, muestraLaPestanaQueSeLePide) {
   auto const& ficha = *fichaDeLinux(gnomeTerminal.identificador);
-  if (!estaAqui(ficha)) return;
+  if (!estaAqui(ficha)) GTEST_SKIP() << noEstaAqui(ficha);
   Sesiones s{ficha, Escritorio::Pantalla::x11};
   s.escritorio.casa().escribir(".config/glib-2.0/settings/keyfile",
                                "[org/gnome/terminal/legacy]\nshell-integration-enabled=true\n");
@@ -208,7 +211,7 @@ TEST(GnomeTerminalConBuscador, muestraLaPestanaQueSeLePide) {
 /// An agent at work writes titles of its own all the time.
 TEST(TituloQueCambia, laMarcaSeVeAunqueLaSesionEscribaTitulosSinCesar) {
   auto const& ficha = *fichaDeLinux(gnomeTerminal.identificador);
-  if (!estaAqui(ficha)) return;
+  if (!estaAqui(ficha)) GTEST_SKIP() << noEstaAqui(ficha);
   Sesiones s{ficha, Escritorio::Pantalla::x11};
   s.escritorio.programa("titulos",
                         "while sleep 0.1; do printf '\\033]0;trabajando\\007'; done &\nexec claude\n");

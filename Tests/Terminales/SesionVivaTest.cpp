@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "Terminales/Escritorio.h"
-#include "ZorveTerminal/ProcesosDelTty.h"
+#include "ZorveTerminal/SesionEnTty.h"
 
 namespace zorve::pruebas {
 namespace {
@@ -152,7 +152,7 @@ TEST_F(SesionViva, siElServidorDeTmuxNoContestaSeDice) {
 TEST_F(SesionViva, siLaTerminalALaQueHayQuePreguntarNoContestaSeDice) {
   auto const una = enVentanaDe("org.kde.konsole");
   registrar(una.pid);
-  parar(liderDelTty(una.tty).value_or(Proceso{}).padre);
+  parar(ayudante::liderDelTty(una.tty).value_or(ayudante::Proceso{}).padre);
   abrirDice("Konsole does not answer, so its session on " + una.tty.substr(5) + " could not be shown.");
 }
 

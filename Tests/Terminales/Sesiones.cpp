@@ -5,7 +5,7 @@
 #include <ranges>
 
 #include "Terminales/Teclado.h"
-#include "ZorveTerminal/ProcesosDelTty.h"
+#include "ZorveTerminal/SesionEnTty.h"
 #include "ZorveTerminal/Sway.h"
 
 namespace zorve::pruebas {
@@ -42,7 +42,8 @@ bool Sesiones::sabeLasVentanas() const {
 std::vector<std::string> Sesiones::ventanas() const {
   std::vector<std::string> todas;
   if (escritorio.variables.contains("SWAYSOCK")) {
-    for (auto const& una : ventanasDelArbol(escritorio.correr({"swaymsg", "-r", "-t", "get_tree"}).salida)) {
+    for (auto const& una :
+         ayudante::ventanasDelArbol(escritorio.correr({"swaymsg", "-r", "-t", "get_tree"}).salida)) {
       todas.push_back(std::to_string(una.id));
     }
     return todas;
@@ -93,13 +94,13 @@ void Sesiones::laTeclaLlegaSoloA(std::size_t cual, std::string const& tecla) con
 }
 
 pid_t Sesiones::anfitrionDe(std::size_t cual) const {
-  auto const lider = liderDelTty(sesiones.at(cual).tty);
+  auto const lider = ayudante::liderDelTty(sesiones.at(cual).tty);
   return lider ? lider->padre : 0;
 }
 
 std::string Sesiones::variableDe(std::size_t cual, std::string const& nombre) const {
-  auto const lider = liderDelTty(sesiones.at(cual).tty);
-  return lider ? variableDelProceso(lider->pid, nombre) : std::string{};
+  auto const lider = ayudante::liderDelTty(sesiones.at(cual).tty);
+  return lider ? ayudante::variableDelProceso(lider->pid, nombre) : std::string{};
 }
 
 bool Sesiones::hacer(std::vector<std::string> const& palabras) const {

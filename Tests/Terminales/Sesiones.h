@@ -8,7 +8,7 @@
 
 #include "Terminales/CadaTerminal.h"
 #include "Terminales/Escritorio.h"
-#include "ZorveCore/FichaDeTerminal.h"
+#include "ZorveCore/Terminales/FichaDeTerminal.h"
 
 namespace zorve::pruebas {
 

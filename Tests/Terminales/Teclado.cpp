@@ -13,7 +13,8 @@ bool Teclado::tieneVentana() const {
       return escritorio_.correr({"xdotool", "getwindowfocus", "getwindowname"}).codigo == 0 &&
              escritorio_.correr({"xdotool", "getactivewindow"}).codigo == 0;
     auto const arbol = escritorio_.correr({"swaymsg", "-r", "-t", "get_tree"}).salida;
-    return std::ranges::any_of(ventanasDelArbol(arbol), [](auto const& ventana) { return ventana.enfocada; });
+    return std::ranges::any_of(ayudante::ventanasDelArbol(arbol),
+                               [](auto const& ventana) { return ventana.enfocada; });
   });
 }
 

@@ -76,7 +76,7 @@ class Ventana {
   std::string terminal_;
 };
 
-class TeclasEnCadaTerminal : public testing::TestWithParam<FichaDeTerminal> {
+class TeclasEnCadaTerminal : public DeUnTerminal {
  protected:
   static void detenerSeguirTerminarYRepetir(std::string const& shell) {
     Ventana const ventana{GetParam(), shell};
@@ -124,23 +124,18 @@ INSTANTIATE_TEST_SUITE_P(Linux, TeclasEnCadaTerminal,
                          nombreDelTerminal);
 
 TEST_P(TeclasEnCadaTerminal, enBashControlZFgControlCEHistorialObedecenAlTeclado) {
-  if (estaAqui(GetParam())) detenerSeguirTerminarYRepetir("/bin/bash");
+  detenerSeguirTerminarYRepetir("/bin/bash");
 }
 
 TEST_P(TeclasEnCadaTerminal, largoEnZshControlZFgControlCEHistorialObedecenAlTeclado) {
-  if (conLosLargos() && estaAqui(GetParam())) detenerSeguirTerminarYRepetir("/bin/zsh");
+  detenerSeguirTerminarYRepetir("/bin/zsh");
 }
 
-TEST_P(TeclasEnCadaTerminal, largoFishCorreLaLineaYSeQueda) {
-  if (conLosLargos() && estaAqui(GetParam())) correrLaLineaYQuedarse("/usr/bin/fish");
-}
+TEST_P(TeclasEnCadaTerminal, largoFishCorreLaLineaYSeQueda) { correrLaLineaYQuedarse("/usr/bin/fish"); }
 
-TEST_P(TeclasEnCadaTerminal, largoDashCorreLaLineaYSeQueda) {
-  if (conLosLargos() && estaAqui(GetParam())) correrLaLineaYQuedarse("/bin/dash");
-}
+TEST_P(TeclasEnCadaTerminal, largoDashCorreLaLineaYSeQueda) { correrLaLineaYQuedarse("/bin/dash"); }
 
 TEST_P(TeclasEnCadaTerminal, largoUnDirectorioQueYaNoEstaDejaUnaShellQueNoHaCorridoNada) {
-  if (!conLosLargos() || !estaAqui(GetParam())) return;
   Ventana const ventana{GetParam(), "/bin/bash"};
   ventana.abrir(ventana.escritorio.casa().dentro("perdido"));
   ASSERT_TRUE(ventana.empiezaCon("claude sigo"));
@@ -148,7 +143,6 @@ TEST_P(TeclasEnCadaTerminal, largoUnDirectorioQueYaNoEstaDejaUnaShellQueNoHaCorr
 }
 
 TEST_P(TeclasEnCadaTerminal, largoSinClaudeQuedaUnaShellQueLoHaDicho) {
-  if (!conLosLargos() || !estaAqui(GetParam())) return;
   Ventana const ventana{GetParam(), "/bin/bash"};
   auto const& casa = ventana.escritorio.casa();
   auto const propios = casa.dentro("propios");

@@ -15,11 +15,15 @@ using Palabras = std::vector<std::string>;
 /// sessions that follow the first are the panes of its server.
 class TmuxEnPestana : public testing::TestWithParam<std::string> {
  protected:
+  void SetUp() override {
+    auto const& ficha = *fichaDeLinux(GetParam());
+    if (!estaAqui(ficha)) GTEST_SKIP() << noEstaAqui(ficha);
+  }
+
   [[nodiscard]] bool abrirlas() {
     auto const claude = s.escritorio.casa().dentro("propios/claude");
-    return estaAqui(*fichaDeLinux(GetParam())) && s.abrirVentana() &&
-           s.hacer(tmux({"-f", "/dev/null", "new-session", "-d", claude})) && s.esperarOtra() &&
-           s.hacer(tmux({"new-window", claude})) && s.esperarOtra() &&
+    return s.abrirVentana() && s.hacer(tmux({"-f", "/dev/null", "new-session", "-d", claude})) &&
+           s.esperarOtra() && s.hacer(tmux({"new-window", claude})) && s.esperarOtra() &&
            s.hacer(tmux({"set-option", "-g", "set-titles", "on"})) && abrirPestana() &&
            esperarA([&] { return !s.escritorio.correr(tmux({"list-clients"})).salida.empty(); });
   }
@@ -67,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(Linux, TmuxEnPestana, testing::Values("org.kde.konsole"
                          });
 
 TEST_P(TmuxEnPestana, laTeclaLlegaAlPaneYALaOtraPestana) {
-  if (!abrirlas()) return;
+  ASSERT_TRUE(abrirlas());
   s.laTeclaLlegaSoloA(0, "a");
   laTeclaLlegaSoloAlPane(1, "b");
   s.laTeclaLlegaSoloA(0, "c");

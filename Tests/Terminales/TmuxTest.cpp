@@ -19,7 +19,7 @@ class ConTmuxEnSway : public ConTmux {
     auto const mostrados = tmux({"list-clients", "-F", "#{pane_tty}"}).salida;
     EXPECT_TRUE(mostrados.contains(panes.at(cual).tty + "\n")) << mostrados;
     for (auto const& ventana :
-         ventanasDelArbol(escritorio.correr({"swaymsg", "-r", "-t", "get_tree"}).salida)) {
+         ayudante::ventanasDelArbol(escritorio.correr({"swaymsg", "-r", "-t", "get_tree"}).salida)) {
       if (ventana.enfocada) return ventana.id;
     }
     return 0;

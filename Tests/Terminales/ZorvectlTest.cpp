@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "Terminales/Escritorio.h"
-#include "ZorveCore/Escape.h"
+#include "ZorveCore/Texto/Escape.h"
 
 namespace zorve::pruebas {
 namespace {

@@ -1,30 +1,22 @@
 import QtQuick
 import QtTest
+import Zorve.Tipos
 import Zorve.Vistas
 
 Item {
     width: 620; height: 460
 
-    // Stands for the settings' values.
-    QtObject {
+    // Stands for the settings.
+    Connections {
         id: ajustes
-        property var secciones: [{ titulo: "General", simbolo: "general", elegida: true },
-                                 { titulo: "Terminal", simbolo: "terminal", elegida: false },
-                                 { titulo: "About", simbolo: "acercaDe", elegida: false }]
-        property string seccion: "general"
-        property string banda: ""
-        property var grupos: []
-        property string texto: ""
-        property string pie: ""
-        property string nombreYVersion: "Zorve 1.2"
-        property string paraCerrar: ""
         property var elegidas: []
-        function clicEnSeccion(cual) {
-            secciones = secciones.map((una, i) => ({ titulo: una.titulo, simbolo: una.simbolo, elegida: i === cual }))
+        target: DatosDeAjustes
+        function onSeccionPulsada(cual) {
+            DatosDeAjustes.secciones = DatosDeAjustes.secciones.map((una, i) => ({ titulo: una.titulo, simbolo: una.simbolo, elegida: i === cual }))
         }
-        function clicEnOpcion(grupo, opcion) {
+        function onOpcionPulsada(grupo, opcion) {
             elegidas.push(opcion)
-            grupos = grupos.map(uno => ({ titulo: uno.titulo,
+            DatosDeAjustes.grupos = DatosDeAjustes.grupos.map(uno => ({ titulo: uno.titulo,
                                           opciones: uno.opciones.map((una, i) => Object.assign({}, una, { marcada: i === opcion })) }))
         }
     }
@@ -35,6 +27,12 @@ Item {
         name: "Ajustes"
         when: windowShown
 
+        function initTestCase() {
+            DatosDeAjustes.nombreYVersion = "Zorve 1.2"
+            DatosDeAjustes.secciones = [{ titulo: "General", simbolo: Simbolo.Engranaje, elegida: true },
+                                        { titulo: "Terminal", simbolo: Simbolo.Terminal, elegida: false },
+                                        { titulo: "About", simbolo: Simbolo.AcercaDe, elegida: false }]
+        }
         function opciones(cuantas) {
             const todas = []
             for (let i = 0; i < cuantas; i++) todas.push({ titulo: "Opción " + i, nota: "", marcada: i === 0, cuadro: false })
@@ -48,8 +46,8 @@ Item {
         }
 
         function init() {
-            ajustes.clicEnSeccion(0)
-            ajustes.grupos = [{ titulo: "Uno", opciones: opciones(3) }]
+            DatosDeAjustes.seccionPulsada(0)
+            DatosDeAjustes.grupos = [{ titulo: "Uno", opciones: opciones(3) }]
             ajustes.elegidas = []
             waitForRendering(vista)
         }
@@ -75,12 +73,12 @@ Item {
             findChild(vista, "seccion0").forceActiveFocus(Qt.TabFocusReason)
             keyClick(Qt.Key_Up)
             keyClick(Qt.Key_Down)
-            verify(ajustes.secciones[1].elegida)
+            verify(DatosDeAjustes.secciones[1].elegida)
             compare(enfocado().objectName, "seccion1")
         }
 
         function test_laOpcionConElTecladoEstaALaVista() {
-            ajustes.grupos = [{ titulo: "", opciones: opciones(40) }]
+            DatosDeAjustes.grupos = [{ titulo: "", opciones: opciones(40) }]
             waitForRendering(vista)
             alasOpciones()
             const area = findChild(vista, "area")
@@ -94,18 +92,31 @@ Item {
 
         function test_menosOpcionesQueAntesNoRompenNada() {
             failOnWarning(/Error/)
-            ajustes.grupos = [{ titulo: "A", opciones: opciones(9) }, { titulo: "B", opciones: opciones(2) }]
+            DatosDeAjustes.grupos = [{ titulo: "A", opciones: opciones(9) }, { titulo: "B", opciones: opciones(2) }]
             waitForRendering(vista)
-            ajustes.grupos = [{ titulo: "A", opciones: opciones(1) }]
+            DatosDeAjustes.grupos = [{ titulo: "A", opciones: opciones(1) }]
             waitForRendering(vista)
-            ajustes.grupos = []
+            DatosDeAjustes.grupos = []
             waitForRendering(vista)
         }
 
+        function test_acercaDeQuedaBajoUnaBandaLarga() {
+            DatosDeAjustes.grupos = []
+            DatosDeAjustes.acercaDe = true
+            DatosDeAjustes.banda = "launcher: could not write ".repeat(60)
+            const area = findChild(vista, "area")
+            const acercaDe = findChild(vista, "acercaDe")
+            tryVerify(() => acercaDe.y > 200)
+            verify(area.contentHeight >= acercaDe.y + acercaDe.implicitHeight, area.contentHeight)
+            DatosDeAjustes.banda = ""
+            tryVerify(() => acercaDe.y === 0 && area.contentHeight <= area.height)
+            DatosDeAjustes.acercaDe = false
+        }
+
         function test_unaBandaLargaSeVeEntera() {
-            ajustes.banda = "launcher: could not write ".repeat(20)
+            DatosDeAjustes.banda = "launcher: could not write ".repeat(20)
             tryVerify(() => findChild(vista, "area").contentHeight > 300)
-            ajustes.banda = ""
+            DatosDeAjustes.banda = ""
         }
     }
 }

@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Zorve.Tipos
 import Zorve.Vistas
 
 Item {
@@ -12,7 +13,7 @@ Item {
         id: fila
         FilaDeSesion {
             width: 440
-            index: 0; titulo: "Un título"; ayuda: ""; ruta: "~/src"; palabra: ""; tiempo: "5m"; conteo: "12 prompts"; estado: "dead"
+            index: 0; titulo: "Un título"; ayuda: ""; ruta: "~/src"; palabra: ""; tiempo: "5m"; conteo: "12 prompts"; estado: DatosDelPanel.Acabada
             onPulsada: caso.pulsadas++
         }
     }
@@ -55,14 +56,14 @@ Item {
         }
 
         function test_laPalabraSigueALaRutaCortada() {
-            const una = createTemporaryObject(fila, caso, { ruta: "/r".repeat(200), palabra: "working", estado: "busy" })
+            const una = createTemporaryObject(fila, caso, { ruta: "/r".repeat(200), palabra: "working", estado: DatosDelPanel.Ocupada })
             const ruta = texto(una, "/r".repeat(200))
             verify(ruta.truncated)
             fuzzyCompare(texto(una, " · working").x, ruta.x + ruta.contentWidth, 1)
         }
 
         function test_unaRutaLargaDejaSitioALaPalabra() {
-            const una = createTemporaryObject(fila, caso, { ruta: "/r".repeat(200), palabra: "working", estado: "busy" })
+            const una = createTemporaryObject(fila, caso, { ruta: "/r".repeat(200), palabra: "working", estado: DatosDelPanel.Ocupada })
             const palabra = texto(una, " · working")
             verify(palabra.visible)
             verify(palabra.x + palabra.width <= texto(una, "12 prompts").x)
@@ -71,6 +72,13 @@ Item {
         function test_unaSesionAcabadaMuestraSoloLaRuta() {
             const una = createTemporaryObject(fila, caso)
             verify(!textos(una).some(t => t.visible && t.text.includes("·")))
+        }
+
+        function test_unDobleClicPulsaUnaVez() {
+            const una = createTemporaryObject(fila, caso)
+            caso.pulsadas = 0
+            mouseDoubleClickSequence(una, 200, 28)
+            compare(caso.pulsadas, 1)
         }
 
         function test_unClicPulsaLaFila() {

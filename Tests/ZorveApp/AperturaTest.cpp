@@ -3,7 +3,7 @@
 #include <stdexcept>
 
 #include "Mesa.h"
-#include "ZorveCore/TerminalTmux.h"
+#include "ZorveCore/Terminales/AnfitrionaTmux.h"
 
 namespace zorve {
 namespace {
@@ -213,7 +213,7 @@ TEST_F(AperturaTest, cadaCargaYCadaAperturaMiranElManejadorEnSegundoPlano) {
 
 TEST_F(AperturaTest, loQueLanceElCatalogoEsUnFalloYNoElFinDelPrograma) {
   auto con = colaboradores();
-  con.catalogo.leerEleccion = []() -> std::optional<std::string> { throw std::runtime_error{"boom"}; };
+  con.servicios.fuentes.eleccion = []() -> std::optional<std::string> { throw std::runtime_error{"boom"}; };
   ModeloDeVista otro{std::move(con)};
   enDisco({sesionDe("a")});
   otro.refrescar();
@@ -226,7 +226,7 @@ TEST_F(AperturaTest, loQueLanceElCatalogoEsUnFalloYNoElFinDelPrograma) {
 
 TEST_F(AperturaTest, unaAnfitrionaDeFueraDelCatalogoHospedaYRecibeLaElegida) {
   auto con = colaboradores();
-  con.anfitrionas = anfitrionasDeLinux("/ayudante");
+  con.servicios.anfitrionas = anfitrionasDeLinux("/ayudante");
   ModeloDeVista otro{std::move(con)};
   enDisco({sesionViva("a", 40)});
   ejecutor.proceso(40, 30, "claude", "pts/3").proceso(30, 1, "tmux: server");
@@ -234,7 +234,22 @@ TEST_F(AperturaTest, unaAnfitrionaDeFueraDelCatalogoHospedaYRecibeLaElegida) {
   despachador.correrTodo();
   otro.abrirSeleccionada();
   despachador.correrTodo();
-  EXPECT_EQ(ejecutor.llamadas().back(), (Palabras{"/ayudante", "focus", "tmux", "pts/3", "uno"}));
+  EXPECT_EQ(ejecutor.llamadas().back(), (Palabras{"/ayudante", "focus", "tmux", "pts/3", "uno", "40"}));
+}
+
+TEST_F(AperturaTest, loQueTeclearaCaracteresDeControlNoSeCorre) {
+  std::vector const comandos{
+      ComandoDeApertura{"/ayudante", {}},
+      ComandoDeApertura{"/usr/bin/osascript", {"-e", "do script \"cd '/a\x15\u00f1' && b\""}}};
+  EXPECT_EQ(ejecutarComandos(comandos, ejecutor, Textos{Idioma::en}),
+            "The session in /a\u2415\u00f1 cannot be opened in this terminal: control characters would be "
+            "typed into "
+            "its shell. Rename the directory, or run `claude -r` there yourself.");
+  EXPECT_EQ(ejecutarComandos(comandos, ejecutor, Textos{Idioma::es}),
+            "La sesi\u00f3n de /a\u2415\u00f1 no puede abrirse en esta terminal: se teclear\u00edan "
+            "caracteres de control en su "
+            "shell. Cambia el nombre del directorio, o ejecuta all\u00ed `claude -r`.");
+  EXPECT_TRUE(ejecutor.llamadas().empty());
 }
 
 TEST_F(AperturaTest, enEspanolTodoSaleEnEspanol) {

@@ -15,7 +15,7 @@ class HilosTest : public Mesa {
   HilosTest() {
     auto con = colaboradores();
     enHilos = std::make_unique<ModeloDeVista>(ColaboradoresDelModelo{.cargar = con.cargar,
-                                                                     .catalogo = con.catalogo,
+                                                                     .servicios = con.servicios,
                                                                      .ejecutor = ejecutor,
                                                                      .portapapeles = portapapeles,
                                                                      .despachador = hilos,
@@ -67,7 +67,7 @@ TEST_F(HilosTest, elModeloDesapareceMientrasCargaYAbre) {
 
 TEST_F(HilosTest, losAjustesCarganVariasVecesALaVez) {
   dobles::InicioDePrueba inicio;
-  ModeloDeAjustes ajustes{{.catalogo = colaboradores().catalogo,
+  ModeloDeAjustes ajustes{{.terminales = colaboradores().servicios.fuentes,
                            .preferencias = preferencias,
                            .inicio = inicio,
                            .idioma = idioma,

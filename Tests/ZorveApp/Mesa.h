@@ -67,10 +67,13 @@ class Mesa : public ::testing::Test {
 
   ColaboradoresDelModelo colaboradores() {
     return {.cargar = [disco = disco] { return *disco; },
-            .catalogo = {.conocidas = *conocidas,
-                         .manejadorDelSistema = [manejador = manejador] { return *manejador; },
-                         .leerEleccion = [eleccion = eleccion] { return *eleccion; },
-                         .mirarElManejador = [miradas = miradas] { ++*miradas; }},
+            .servicios = {.fuentes = {.conocidas = *conocidas,
+                                      .sistema =
+                                          [miradas = miradas, manejador = manejador] {
+                                            ++*miradas;
+                                            return RespuestaDelSistema{.aplicacion = *manejador};
+                                          },
+                                      .eleccion = [eleccion = eleccion] { return *eleccion; }}},
             .ejecutor = ejecutor,
             .portapapeles = portapapeles,
             .despachador = despachador,

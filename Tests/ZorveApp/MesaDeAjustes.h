@@ -24,17 +24,23 @@ class MesaDeAjustes : public ::testing::Test {
 
   void hacerDeNuevo(std::optional<std::string> version = "1.2") {
     modelo.reset();
-    modelo = std::make_unique<ModeloDeAjustes>(ColaboradoresDeAjustes{
-        .catalogo = {.conocidas = conocidas,
-                     .manejadorDelSistema = [manejador = manejador] { return *manejador; },
-                     .leerEleccion = [this] { return eleccionGuardada(preferencias); },
-                     .mirarElManejador = [this] { ++miradas; }},
-        .preferencias = preferencias,
-        .inicio = inicio,
-        .idioma = idioma,
-        .despachador = despachador,
-        .version = std::move(version),
-        .dichoPor = [this] { return dichoPor; }});
+    modelo = std::make_unique<ModeloDeAjustes>(
+        ColaboradoresDeAjustes{.terminales = {.conocidas = conocidas,
+                                              .sistema =
+                                                  [this] {
+                                                    ++miradas;
+                                                    return RespuestaDelSistema{*manejador, dichoPor};
+                                                  },
+                                              .eleccion =
+                                                  [this] {
+                                                    ++lecturas;
+                                                    return leerLaEleccion(preferencias);
+                                                  }},
+                               .preferencias = preferencias,
+                               .inicio = inicio,
+                               .idioma = idioma,
+                               .despachador = despachador,
+                               .version = std::move(version)});
   }
   void cargar() {
     modelo->cargar();
@@ -58,6 +64,8 @@ class MesaDeAjustes : public ::testing::Test {
   std::optional<std::string> dichoPor;
   /// How often the system's terminal was looked up.
   int miradas = 0;
+  /// How often the saved choice was read.
+  int lecturas = 0;
   dobles::PreferenciasEnMemoria preferencias;
   PreferenciaDeIdioma idioma{preferencias};
   dobles::InicioDePrueba inicio;

@@ -21,11 +21,12 @@ TEST_F(ModeloDeAjustesTest, naceSinSaberNada) {
   EXPECT_FALSE(*modelo->cargado());
 }
 
-TEST_F(ModeloDeAjustesTest, cadaCargaMiraElManejadorEnSegundoPlano) {
+TEST_F(ModeloDeAjustesTest, cadaCargaPreguntaUnaVezALaMaquinaYUnaALasPreferenciasEnSegundoPlano) {
   modelo->cargar();
-  EXPECT_EQ(miradas, 0) << "not on the main thread";
+  EXPECT_EQ(miradas + lecturas, 0) << "not on the main thread";
   despachador.correrTodo();
   EXPECT_EQ(miradas, 1);
+  EXPECT_EQ(lecturas, 1);
 }
 
 TEST_F(ModeloDeAjustesTest, lasSeccionesVanEnSuOrden) {
@@ -63,15 +64,13 @@ TEST_F(ModeloDeAjustesTest, sinPoderDecidirElFalloEsElDelCatalogo) {
 }
 
 TEST_F(ModeloDeAjustesTest, otroFalloAlResolverEsTerminalDesconocida) {
-  ModeloDeAjustes otro{{.catalogo = {.conocidas = conocidas,
-                                     .manejadorDelSistema = []() -> std::optional<std::string> {
-                                       throw std::runtime_error{"boom"};
-                                     },
-                                     .leerEleccion = [] { return std::optional<std::string>{}; }},
-                        .preferencias = preferencias,
-                        .inicio = inicio,
-                        .idioma = idioma,
-                        .despachador = despachador}};
+  ModeloDeAjustes otro{
+      {.terminales = {.conocidas = conocidas,
+                      .sistema = []() -> RespuestaDelSistema { throw std::runtime_error{"boom"}; }},
+       .preferencias = preferencias,
+       .inicio = inicio,
+       .idioma = idioma,
+       .despachador = despachador}};
   otro.cargar();
   despachador.correrTodo();
   EXPECT_EQ(*otro.fallo(), (FalloDeAjustes{Caso::terminalDesconocida, "boom"}));

@@ -54,6 +54,25 @@ TEST_F(PanelViewTest, alVolverConservaLaBusquedaYLaSeleccion) {
   EXPECT_EQ(*modelo->seleccion(), "claude:c");
 }
 
+TEST_F(PanelViewTest, laBusquedaSeEscribeYSeLeePorElPanel) {
+  cargar({sesionDe("a", "alfa"), sesionDe("b", "beta")});
+  panel.escribirConsulta("beta");
+  EXPECT_EQ(panel.consulta(), "beta");
+  EXPECT_EQ(panel.cantidadDeFilas(), 1U);
+}
+
+TEST_F(PanelViewTest, quienLoObservaOyeElModeloYElIdiomaHastaQueTermina) {
+  int cambios = 0;
+  auto suscripciones = panel.observar([&] { ++cambios; });
+  panel.escribirConsulta("x");
+  EXPECT_EQ(cambios, 1);
+  enEspanol();
+  EXPECT_EQ(cambios, 2);
+  suscripciones.clear();
+  panel.escribirConsulta("xy");
+  EXPECT_EQ(cambios, 2);
+}
+
 TEST_F(PanelViewTest, mientrasCargaSinSesionesBusca) {
   modelo->refrescar();
   EXPECT_EQ(panel.marcador(), "looking for sessions…");

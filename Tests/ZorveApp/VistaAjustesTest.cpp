@@ -62,6 +62,19 @@ TEST_F(VistaAjustesTest, unClicEligeLaSeccion) {
   EXPECT_TRUE(vista->secciones()[2].elegida);
 }
 
+TEST_F(VistaAjustesTest, quienLaObservaOyeElModeloYElIdiomaHastaQueTermina) {
+  int cambios = 0;
+  auto suscripciones = vista->observar([&] { ++cambios; });
+  vista->clicEnSeccion(SeccionDeAjustes::acercaDe);
+  EXPECT_EQ(vista->seccion(), SeccionDeAjustes::acercaDe);
+  EXPECT_EQ(cambios, 1);
+  enEspanol();
+  EXPECT_EQ(cambios, 2);
+  suscripciones.clear();
+  vista->clicEnSeccion(SeccionDeAjustes::general);
+  EXPECT_EQ(cambios, 2);
+}
+
 TEST_F(VistaAjustesTest, generalTieneInicioEIdioma) {
   auto const contenido = vista->general();
   ASSERT_EQ(contenido.grupos.size(), 2U);

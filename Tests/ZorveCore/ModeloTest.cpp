@@ -26,6 +26,19 @@ TEST(Modelo, losTextosCrudosSonExactos) {
   EXPECT_EQ(desdeTextoCrudo<SessionKind>("claude"), SessionKind::claude);
 }
 
+TEST(Modelo, cadaTextoCrudoEsElNombreDeSuCaso) {
+  EXPECT_EQ(textoCrudo(SessionKind::claude), "claude");
+  EXPECT_EQ(textoCrudo(LiveState::dead), "dead");
+  EXPECT_EQ(textoCrudo(LiveState::idle), "idle");
+  EXPECT_EQ(textoCrudo(LiveState::busy), "busy");
+  EXPECT_EQ(textoCrudo(TitleSource::aiTitle), "aiTitle");
+  EXPECT_EQ(textoCrudo(TitleSource::derivedFromFirstPrompt), "derivedFromFirstPrompt");
+  EXPECT_EQ(textoCrudo(IndexSource::history), "history");
+  EXPECT_EQ(textoCrudo(IndexSource::transcripts), "transcripts");
+  EXPECT_EQ(textoCrudo(IndexSource::sessions), "sessions");
+  EXPECT_EQ(textoCrudo(IndexSource::launcher), "launcher");
+}
+
 template <class E>
 void elTextoCrudoVaYVuelve() {
   for (auto const caso : todosLosCasos<E>()) EXPECT_EQ(desdeTextoCrudo<E>(textoCrudo(caso)), caso);

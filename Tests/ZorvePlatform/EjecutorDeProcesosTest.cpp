@@ -3,11 +3,15 @@
 #include <fcntl.h>
 #include <signal.h>  // NOLINT(modernize-deprecated-headers): the mask of signals is POSIX
 #include <sys/stat.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <filesystem>
 #include <future>
+#include <iterator>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "Dobles/CarpetaTemporal.h"
@@ -75,6 +79,26 @@ TEST(EjecutorDeProcesos, laEntradaEstaVacia) {
 
 TEST(EjecutorDeProcesos, unProgramaQueNoExisteNoSeLanza) { EXPECT_EQ(fallaCon("/no/hay/tal"), ENOENT); }
 
+TEST(EjecutorDeProcesos, unPsSoloRecibeElPathYElIdiomaC) {
+  dobles::CarpetaTemporal const carpeta;
+  std::filesystem::create_symlink("/usr/bin/env", carpeta.dentro("ps"));
+  EjecutorDeProcesos const ejecutor{{"HOME=/x", "COLUMNS=5", "LINES=1", "PS_FORMAT=pid", "LC_ALL=es_ES.UTF-8",
+                                     "PATH=/usr/bin:/bin", "UNIX95=1"}};
+  EXPECT_EQ(ejecutor.correr(carpeta.dentro("ps"), {})->salida, "LC_ALL=C\nPATH=/usr/bin:/bin\n");
+  EXPECT_EQ(entornoParaPs({"COLUMNS=5"}), (std::vector<std::string>{"LC_ALL=C"}));
+}
+
+TEST(EjecutorDeProcesos, elAnchoDeLaPersonaNoCortaLoQueDicePs) {
+  auto entorno = entornoDelProceso();
+  entorno.emplace_back("COLUMNS=5");
+  entorno.emplace_back("PS_FORMAT=pid");
+  std::vector<std::string> const args{"-o", "ppid=,comm=", "-p", std::to_string(::getpid())};
+  auto const corrida = EjecutorDeProcesos{entorno}.correr("/bin/ps", args);
+  ASSERT_TRUE(corrida);
+  EXPECT_EQ(corrida->codigo, 0);
+  EXPECT_THAT(corrida->salida, testing::HasSubstr("PruebasDePlataf"));
+}
+
 TEST(EjecutorDeProcesos, elPathNoSeMira) { EXPECT_EQ(fallaCon("sh"), ENOENT); }
 
 TEST(EjecutorDeProcesos, unArchivoQueNoEsEjecutableNoSeLanza) {
@@ -117,14 +141,51 @@ TEST(EjecutorDeProcesos, elHijoNoHeredaNingunDescriptor) {
 }
 
 TEST(EjecutorDeProcesos, nadaQuedaAbiertoDespues) {
-  // Fewer afterwards is no leak: what the test was started with may close meanwhile.
-  auto const cuantos = [] { return std::stoi(salidaDe("ls /proc/$PPID/fd | wc -l")); };
+  auto const cuantos = [] {
+    return std::distance(std::filesystem::directory_iterator{"/dev/fd"},
+                         std::filesystem::directory_iterator{});
+  };
   auto const antes = cuantos();
   for (int i = 0; i < 20; ++i) {
     ASSERT_EQ(salidaDe("echo a"), "a\n");
     ASSERT_EQ(fallaCon("/no/hay/tal"), ENOENT);
   }
-  EXPECT_LE(cuantos(), antes);
+  EXPECT_EQ(cuantos(), antes);
+}
+
+/// A signal every two milliseconds that interrupts whatever waits.
+class Interrupciones {
+ public:
+  Interrupciones() {
+    struct sigaction accion{};
+    accion.sa_handler = [](int) {};
+    ::sigaction(SIGALRM, &accion, &antes_);
+    poner(2'000);
+  }
+  Interrupciones(Interrupciones const&) = delete;
+  Interrupciones& operator=(Interrupciones const&) = delete;
+  ~Interrupciones() {
+    poner(0);
+    ::sigaction(SIGALRM, &antes_, nullptr);
+  }
+
+ private:
+  static void poner(long microsegundos) {
+    itimerval const cada{{0, microsegundos}, {0, microsegundos}};
+    ::setitimer(ITIMER_REAL, &cada, nullptr);
+  }
+
+  struct sigaction antes_{};
+};
+
+TEST(EjecutorDeProcesos, lasSenalesNoCortanLaLecturaNiLaEspera) {
+  Interrupciones const interrupciones;
+  auto const leida = shell("sleep 0.1; echo a; sleep 0.1; echo b");
+  ASSERT_TRUE(leida);
+  EXPECT_EQ(leida->salida, "a\nb\n");
+  auto const esperada = shell("echo a; exec >&- 2>&-; sleep 0.2; exit 3");
+  ASSERT_TRUE(esperada);
+  EXPECT_EQ(esperada->codigo, 3);
 }
 
 TEST(EjecutorDeProcesos, nadieQuedaSinEnterrar) {

@@ -5,7 +5,7 @@
 #include "Dobles/CarpetaTemporal.h"
 #include "Dobles/Correr.h"
 #include "Dobles/LectorDeLiterales.h"
-#include "ZorveCore/Escape.h"
+#include "ZorveCore/Texto/Escape.h"
 
 namespace zorve {
 namespace {

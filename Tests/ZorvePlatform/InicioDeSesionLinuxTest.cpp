@@ -1,6 +1,7 @@
 #include "ZorvePlatform/Linux/InicioDeSesionLinux.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <fstream>
@@ -31,6 +32,16 @@ TEST_F(InicioDeSesionLinuxTest, alRegistrarEscribeUnaEntradaConLaRutaAbsoluta) {
   ASSERT_TRUE(inicio_.registrar());
   EXPECT_TRUE(inicio_.activo());
   EXPECT_NE(leer(inicio_.entrada()).find("\nExec=\"/opt/zorve/bin/zorve\"\n"), std::string::npos);
+}
+
+TEST_F(InicioDeSesionLinuxTest, lasCarpetasQueHaceEstanCerradasALosDemas) {
+  auto const antes = ::umask(0);
+  ASSERT_TRUE(inicio_.registrar());
+  ::umask(antes);
+  auto const autoarranque = std::filesystem::path{inicio_.entrada()}.parent_path();
+  for (auto const& carpeta : {autoarranque, autoarranque.parent_path()}) {
+    EXPECT_EQ(std::filesystem::status(carpeta).permissions(), std::filesystem::perms{0700}) << carpeta;
+  }
 }
 
 TEST_F(InicioDeSesionLinuxTest, alRetirarQuitaLaEntrada) {

@@ -14,7 +14,7 @@
 
 #include "Dobles/CarpetaTemporal.h"
 #include "Dobles/Pseudoterminal.h"
-#include "ZorveCore/Launcher.h"
+#include "ZorveCore/Terminales/Launcher.h"
 #include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
 
 extern char** environ;  // NOLINT(readability-redundant-declaration)

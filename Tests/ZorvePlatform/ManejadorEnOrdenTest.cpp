@@ -6,7 +6,7 @@
 #include <string>
 
 #include "Dobles/CarpetaTemporal.h"
-#include "ZorveCore/CatalogoDeTerminales.h"
+#include "ZorveCore/Terminales/CatalogoDeTerminales.h"
 #include "ZorvePlatform/Linux/ManejadorLinux.h"
 
 namespace zorve {
@@ -93,15 +93,19 @@ TEST_F(ManejadorEnOrden, losAjustesDelSistemaDeKdeValenDondeLaPersonaCalla) {
   EXPECT_EQ(buscar(), (TerminalDelSistema{"org.kde.konsole", Fuente::kdeglobals}));
 }
 
-TEST_F(ManejadorEnOrden, lasRespuestasSonLasDeLaUltimaMirada) {
+TEST_F(ManejadorEnOrden, unaPreguntaCorreCadaProgramaUnaVezYDaLaTerminalYQuienLaDice) {
   programa("xdg-terminal-exec", "echo una >>" + carpeta.dentro("veces") + "; echo foot.desktop");
   ManejadorLinux const manejador{lugares};
-  manejador.mirar();
-  programa("xdg-terminal-exec", "echo kitty.desktop");
-  EXPECT_EQ(manejadorRegistrado(manejador), "foot");
-  EXPECT_EQ(manejador.dichoPor(CatalogoDeTerminales::tipoDeGuionDeShell), "xdg-terminal-exec");
+  EXPECT_EQ(manejador.preguntar(CatalogoDeTerminales::tipoDeGuionDeShell),
+            (RespuestaDelSistema{"foot", "xdg-terminal-exec"}));
   EXPECT_EQ(std::filesystem::file_size(carpeta.dentro("veces")), 4U) << "it ran once";
-  manejador.mirar();
+}
+
+TEST_F(ManejadorEnOrden, cadaPreguntaMiraDeNuevo) {
+  programa("xdg-terminal-exec", "echo foot.desktop");
+  ManejadorLinux const manejador{lugares};
+  EXPECT_EQ(manejadorRegistrado(manejador), "foot");
+  programa("xdg-terminal-exec", "echo kitty.desktop");
   EXPECT_EQ(manejadorRegistrado(manejador), "kitty");
 }
 

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "Dobles/CarpetaTemporal.h"
-#include "ZorveCore/CatalogoDeTerminales.h"
+#include "ZorveCore/Terminales/CatalogoDeTerminales.h"
 
 namespace zorve {
 namespace {
@@ -50,7 +50,7 @@ TEST_F(ManejadorLinuxTest, sinEnlaceNoHayManejador) {
 
 TEST_F(ManejadorLinuxTest, soloHayManejadorParaGuionesDeShell) {
   std::filesystem::create_symlink("/usr/bin/xterm", enlace);
-  EXPECT_EQ(ManejadorLinux{enlace}.aplicacionPara("public.html"), std::nullopt);
+  EXPECT_EQ(ManejadorLinux{enlace}.preguntar("public.html"), RespuestaDelSistema{});
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "ZorvePlatform/Linux/PreferenciasLinux.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -14,6 +16,7 @@
 
 #include "Dobles/CarpetaTemporal.h"
 #include "Dobles/SinPrivilegios.h"
+#include "ZorvePlatform/Posix/ReemplazarArchivo.h"
 
 namespace zorve {
 namespace {
@@ -156,6 +159,104 @@ TEST_F(PreferenciasLinuxTest, unArchivoHondisimoNoAgotaLaPila) {
 TEST_F(PreferenciasLinuxTest, unArchivoEnormeNoSeLee) {
   conArchivo("{\"x\":\"" + std::string(2U << 20U, 'x') + "\"}");
   EXPECT_THAT(mensajeAlEscribir(), HasSubstr("File too large"));
+}
+
+TEST_F(PreferenciasLinuxTest, unNumeroSinMedidaSeConservaYNoEstorba) {
+  conArchivo(R"({"x":1e999,"y":[-1E+4000,2.50,")"
+             "1e999"
+             R"("],"z":)" +
+             std::string(400, '7') + R"(,"a":"vieja"})");
+  EXPECT_EQ(preferencias.leer("a").value(), Valor{std::string{"vieja"}});
+  ASSERT_TRUE(preferencias.escribir("a", true).has_value());
+  EXPECT_EQ(contenido(archivo),
+            "{\n  \"x\": 1e999,\n  \"y\": [\n    -1E+4000,\n    2.50,\n    \"1e999\"\n  ],\n  \"z\": " +
+                std::string(400, '7') + ",\n  \"a\": true\n}\n");
+  EXPECT_EQ(preferencias.leer("a").value(), Valor{true});
+}
+
+TEST_F(PreferenciasLinuxTest, unNumeroMalEscritoEsUnArchivoDanado) {
+  for (auto const* const malo : {"01", "1.", "+1", "1e", "-", "1e999x", "0x1", "1 2"}) {
+    conArchivo(std::string{R"({"a":true,"x":)"} + malo + "}");
+    EXPECT_FALSE(preferencias.leer("a").has_value()) << malo;
+  }
+}
+
+TEST_F(PreferenciasLinuxTest, loQueConSangriaNoCabriaSeEscribeSinElla) {
+  std::string lista = "{\"x\":[0";
+  while (lista.size() < 400'000) lista += ",0";
+  conArchivo(lista + "]}");
+  ASSERT_TRUE(preferencias.escribir("a", true).has_value());
+  EXPECT_LT(contenido(archivo).size(), 410'000);
+  EXPECT_EQ(preferencias.leer("a").value(), Valor{true});
+}
+
+TEST_F(PreferenciasLinuxTest, loMuyHondoNoCreceAlEscribirse) {
+  conArchivo("{\"x\":" + std::string(10'000, '[') + std::string(10'000, ']') + "}");
+  ASSERT_TRUE(preferencias.escribir("a", true).has_value());
+  EXPECT_LT(contenido(archivo).size(), 22'000);
+  EXPECT_EQ(preferencias.leer("a").value(), Valor{true});
+}
+
+TEST_F(PreferenciasLinuxTest, nuncaEscribeLoQueNoLeeria) {
+  auto const casiLleno = "{\"x\":\"" + std::string((1U << 20U) - 12, 'x') + "\"}";
+  conArchivo(casiLleno);
+  ASSERT_TRUE(preferencias.leer("a").has_value());
+  EXPECT_EQ(mensajeAlEscribir(), "Zorve could not save its settings in " + archivo +
+                                     ": the file would be longer than 1048576 bytes. Take out of it what is "
+                                     "not Zorve's, then try again.");
+  EXPECT_EQ(contenido(archivo), casiLleno);
+}
+
+/// Somebody else's hold on the settings' lock.
+class CerrojoAjeno {
+ public:
+  explicit CerrojoAjeno(std::string const& ruta)
+      : descriptor_{::open(ruta.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)} {
+    if (::flock(descriptor_, LOCK_EX) != 0) throw std::runtime_error("flock");
+  }
+  CerrojoAjeno(CerrojoAjeno const&) = delete;
+  CerrojoAjeno& operator=(CerrojoAjeno const&) = delete;
+  ~CerrojoAjeno() { ::close(descriptor_); }
+
+ private:
+  int descriptor_;
+};
+
+TEST_F(PreferenciasLinuxTest, unCerrojoQueNadieSueltaSeDiceYNoSeEsperaMas) {
+  conArchivo("{}");
+  CerrojoAjeno const ajeno{carpeta.dentro("c/preferences.lock")};
+  PreferenciasLinux impacientes{archivo, std::chrono::milliseconds{60}};
+  auto const resultado = impacientes.escribir("a", true);
+  EXPECT_EQ(resultado.error().mensaje,
+            "Zorve could not save its settings in " + archivo + ": another program holds the lock " +
+                carpeta.dentro("c/preferences.lock") + ". Close it, then try again.");
+  EXPECT_EQ(contenido(archivo), "{}");
+  EXPECT_TRUE(impacientes.leer("a").has_value());
+}
+
+TEST_F(PreferenciasLinuxTest, unCerrojoQueSeSueltaATiempoSeEspera) {
+  conArchivo("{}");
+  auto ajeno = std::make_unique<CerrojoAjeno>(carpeta.dentro("c/preferences.lock"));
+  std::thread quien{[&] {
+    std::this_thread::sleep_for(std::chrono::milliseconds{100});
+    ajeno.reset();
+  }};
+  EXPECT_TRUE(PreferenciasLinux(archivo, std::chrono::seconds{60}).escribir("a", true).has_value());
+  quien.join();
+}
+
+TEST_F(PreferenciasLinuxTest, elCerrojoNoSigueEnlaces) {
+  conArchivo("{}");
+  std::filesystem::create_symlink(carpeta.dentro("ajeno"), carpeta.dentro("c/preferences.lock"));
+  EXPECT_THAT(mensajeAlEscribir(), HasSubstr("Too many levels of symbolic links"));
+  EXPECT_FALSE(std::filesystem::exists(carpeta.dentro("ajeno")));
+}
+
+TEST_F(PreferenciasLinuxTest, trasUnGuardadoFallidoNoQuedaElArchivoDePaso) {
+  carpeta.carpeta("c/p.json/ocupada");
+  EXPECT_FALSE(preferencias.quitar("a").has_value());
+  EXPECT_FALSE(reemplazarArchivo(carpeta.dentro("c/p.json"), "x").has_value());
+  EXPECT_THAT(nombresEn(carpeta.dentro("c")), ElementsAre("p.json", "preferences.lock"));
 }
 
 TEST_F(PreferenciasLinuxTest, unaColaEnSuLugarNoBloquea) {

@@ -63,9 +63,16 @@ TEST_F(SesionGraficaTest, kwinEsElDeKdeSobreWayland) {
   EXPECT_EQ(con({{"WAYLAND_DISPLAY", "wayland-0"}, {"XDG_CURRENT_DESKTOP", "x:KDE"}}), SesionGrafica::kwin);
 }
 
+TEST_F(SesionGraficaTest, elCompositorDeGnomeEsElDeGnomeSobreWayland) {
+  EXPECT_EQ(
+      con({{"WAYLAND_DISPLAY", "wayland-0"}, {"DISPLAY", ":0"}, {"XDG_CURRENT_DESKTOP", "ubuntu:GNOME"}}),
+      SesionGrafica::gnome);
+  EXPECT_EQ(con({{"DISPLAY", ":0"}, {"XDG_CURRENT_DESKTOP", "GNOME"}}), SesionGrafica::x11);
+}
+
 TEST_F(SesionGraficaTest, loDemasEsOtra) {
   EXPECT_EQ(con({}), SesionGrafica::otra);
-  EXPECT_EQ(con({{"WAYLAND_DISPLAY", "wayland-0"}, {"DISPLAY", ":0"}, {"XDG_CURRENT_DESKTOP", "GNOME"}}),
+  EXPECT_EQ(con({{"WAYLAND_DISPLAY", "wayland-0"}, {"XDG_CURRENT_DESKTOP", "XGNOME:GNOMEX"}}),
             SesionGrafica::otra);
   EXPECT_EQ(con({{"WAYLAND_DISPLAY", "wayland-0"}, {"XDG_CURRENT_DESKTOP", "XKDE:KDEX"}}),
             SesionGrafica::otra);

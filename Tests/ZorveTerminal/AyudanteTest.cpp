@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <thread>
 #include <vector>
@@ -11,11 +13,24 @@
 #include "Dobles/CarpetaTemporal.h"
 #include "Dobles/Correr.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 namespace {
 
 using dobles::CarpetaTemporal;
 using dobles::Corrida;
+
+std::string leer(std::string const& ruta) {
+  std::ifstream archivo{ruta};
+  return {std::istreambuf_iterator<char>{archivo}, {}};
+}
+
+/// Whether the folder is empty in the end.
+bool seVacia(std::string const& carpeta) {
+  for (int i = 0; i < 1000 && !std::filesystem::is_empty(carpeta); ++i) {
+    std::this_thread::sleep_for(std::chrono::milliseconds{10});
+  }
+  return std::filesystem::is_empty(carpeta);
+}
 
 /// The helper, with a script in the place of every terminal.
 class Ayudante : public testing::Test {
@@ -33,10 +48,17 @@ class Ayudante : public testing::Test {
                                      {"HOME", carpeta.ruta()},
                                      {"SHELL", "/bin/sh"},
                                      {"XDG_DATA_DIRS", carpeta.dentro("datos")},
-                                     {"XDG_RUNTIME_DIR", carpeta.ruta()}});
+                                     {"XDG_RUNTIME_DIR", ejecucion}});
+  }
+
+  /// A folder that is closed to others.
+  [[nodiscard]] static std::string cerrada(std::string const& ruta) {
+    std::filesystem::permissions(ruta, std::filesystem::perms{0700});
+    return ruta;
   }
 
   CarpetaTemporal carpeta;
+  std::string ejecucion = cerrada(carpeta.carpeta("r"));
 };
 
 TEST_F(Ayudante, elUsoIncorrectoTermina2ConUnaLinea) {
@@ -109,9 +131,57 @@ TEST_F(Ayudante, correLaOrdenEnElDirectorioYNoDejaLaSenal) {
     escrito = std::ifstream{carpeta.dentro("escrito")};
   }
   EXPECT_EQ(linea, donde);
-  for (auto const& entrada : std::filesystem::directory_iterator{carpeta.ruta()}) {
-    EXPECT_FALSE(entrada.path().filename().string().starts_with("zorve-")) << entrada.path();
-  }
+  EXPECT_TRUE(seVacia(ejecucion));
+}
+
+TEST_F(Ayudante, siElTerminalNoEmpiezaNoQuedaNada) {
+  terminal("xterm", "exit 5\n");
+  EXPECT_EQ(correr({"open", "xterm", "/", "x"}).codigo, 5);
+  EXPECT_TRUE(std::filesystem::is_empty(ejecucion));
+}
+
+TEST_F(Ayudante, losArgumentosDelTerminalNoDicenNiElDirectorioNiLaOrdenNiLaCasa) {
+  terminal("xterm", "printf '%s\\n' \"$@\" >\"$HOME/palabras\"; exit 5\n");
+  EXPECT_EQ(correr({"open", "xterm", carpeta.carpeta("un secreto"), "claude -r 'otro secreto'"}).codigo, 5);
+  auto const todas = leer(carpeta.dentro("palabras"));
+  EXPECT_TRUE(todas.starts_with("-e\n/bin/sh\n" + ejecucion + "/zorve-")) << todas;
+  EXPECT_FALSE(todas.contains("secreto")) << todas;
+}
+
+TEST_F(Ayudante, unaCasaRelativaNoEsLaDeNadie) {
+  terminal("xterm", "shift; exec \"$@\" </dev/null\n");
+  auto const repositorio = carpeta.carpeta("repositorio");
+  carpeta.escribir("repositorio/mia/.bashrc", ": >" + carpeta.dentro("AJENO") + "\n");
+  auto const corrida = dobles::correr({"/usr/bin/env", "-C", repositorio, ZORVE_TERMINAL, "open", "xterm",
+                                       repositorio, ": >" + carpeta.dentro("hecho")},
+                                      {{"PATH", carpeta.dentro("bin") + ":/usr/bin:/bin"},
+                                       {"HOME", "mia"},
+                                       {"SHELL", "/bin/bash"},
+                                       {"XDG_RUNTIME_DIR", ejecucion}});
+  EXPECT_EQ(corrida.codigo, 0) << corrida.error;
+  EXPECT_TRUE(seVacia(ejecucion));
+  EXPECT_FALSE(std::filesystem::exists(carpeta.dentro("AJENO")));
+}
+
+TEST_F(Ayudante, laCarpetaDeEjecucionDeOtraPersonaNoRecibeNada) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can be two other users";
+  terminal("xterm", "printf '%s\\n' \"$@\" >\"$HOME/palabras\"; exit 5\n");
+  auto const ajena = carpeta.carpeta("ajena");
+  ASSERT_EQ(::chown(ajena.c_str(), 61002, 61002), 0);
+  std::filesystem::permissions(ajena, std::filesystem::perms{0777});
+  auto const casa = carpeta.carpeta("casa");
+  ASSERT_EQ(::chown(casa.c_str(), 61001, 61001), 0);
+  auto const copia = carpeta.dentro("zorve-terminal");
+  std::filesystem::copy_file(ZORVE_TERMINAL, copia);
+  auto const corrida = dobles::correr({"/usr/bin/setpriv", "--reuid", "61001", "--regid", "61001",
+                                       "--clear-groups", copia, "open", "xterm", "/", "x"},
+                                      {{"PATH", carpeta.dentro("bin") + ":/usr/bin:/bin"},
+                                       {"HOME", casa},
+                                       {"XDG_RUNTIME_DIR", ajena},
+                                       {"TMPDIR", ajena}});
+  EXPECT_EQ(corrida.codigo, 5) << corrida.error;
+  auto const todas = leer(casa + "/palabras");
+  EXPECT_TRUE(todas.starts_with("-e\n/bin/sh\n/tmp/zorve-")) << todas;
 }
 
 TEST_F(Ayudante, unTextoUnicoLlegaComoUnaSolaPalabraQueUnaShellEntiende) {
@@ -132,11 +202,10 @@ TEST_F(Ayudante, unTextoUnicoLlegaComoUnaSolaPalabraQueUnaShellEntiende) {
 }
 
 TEST_F(Ayudante, quienLeeHastaElFinalNoEsperaAlTerminal) {
-  terminal("xterm", "echo $$ >$HOME/pid; rmdir $HOME/zorve-*; exec sleep 60\n");
+  terminal("xterm", "echo $$ >$HOME/pid; rmdir $HOME/r/zorve-*/senal; exec sleep 60\n");
   auto const empieza = std::chrono::steady_clock::now();
   auto const orden = "PATH='" + carpeta.dentro("bin") + ":/usr/bin:/bin' HOME='" + carpeta.ruta() +
-                     "' XDG_RUNTIME_DIR='" + carpeta.ruta() + "' '" + ZORVE_TERMINAL +
-                     "' open xterm / x | cat";
+                     "' XDG_RUNTIME_DIR='" + ejecucion + "' '" + ZORVE_TERMINAL + "' open xterm / x | cat";
   EXPECT_EQ(dobles::correr({"/bin/sh", "-c", orden}).codigo, 0);
   EXPECT_LT(std::chrono::steady_clock::now() - empieza, std::chrono::seconds{20});
   std::ifstream escrito{carpeta.dentro("pid")};
@@ -147,4 +216,4 @@ TEST_F(Ayudante, quienLeeHastaElFinalNoEsperaAlTerminal) {
 }
 
 }  // namespace
-}  // namespace zorve
+}  // namespace zorve::ayudante

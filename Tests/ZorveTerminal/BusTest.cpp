@@ -12,8 +12,9 @@
 
 #include "Dobles/CarpetaTemporal.h"
 #include "Dobles/Correr.h"
+#include "ZorveTerminal/NodosNumerados.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 namespace {
 
 using namespace std::chrono_literals;
@@ -69,8 +70,27 @@ TEST_F(ConBus, recibirDejaPasarLoQueEsParaOtroObjetoUOtroMetodo) {
   decir("/1", "Dice", "tarde");
   decir("/2", "Calla", "otro");
   decir("/2", "Dice", "bien");
-  EXPECT_EQ(nuestro.recibir({nuestro.nombre(), "/2", "com.una.Prueba", "Dice"}, 5s), "bien");
-  EXPECT_EQ(nuestro.recibir({nuestro.nombre(), "/1", "com.una.Prueba", "Dice"}, 10ms), std::nullopt);
+  EXPECT_EQ(nuestro.recibir({nuestro.nombre(), "/2", "com.una.Prueba", "Dice"}, 5s, otro.nombre()), "bien");
+  EXPECT_EQ(nuestro.recibir({nuestro.nombre(), "/1", "com.una.Prueba", "Dice"}, 10ms, otro.nombre()),
+            std::nullopt);
+}
+
+TEST_F(ConBus, recibirDejaPasarLoQueDiceOtraConexion) {
+  Bus const nuestro;
+  Bus const extrana;
+  Bus const esperada;
+  std::vector<Argumento> const argumentos{"mentira"};
+  Metodo const metodo{nuestro.nombre(), "/1", "com.una.Prueba", "Dice"};
+  (void)extrana.llamar(metodo, argumentos, 10ms);
+  EXPECT_EQ(nuestro.recibir(metodo, 50ms, esperada.nombre()), std::nullopt);
+  EXPECT_EQ(nuestro.recibir(metodo, 50ms, ""), std::nullopt);
+}
+
+TEST_F(ConBus, elDuenoDeUnNombreEsSuConexion) {
+  Bus const nuestro;
+  EXPECT_EQ(nuestro.duenoDe(nuestro.nombre()), nuestro.nombre());
+  EXPECT_EQ(nuestro.duenoDe("com.sarnol.nadie"), "");
+  EXPECT_EQ(nuestro.duenoDe(""), "");
 }
 
 TEST_F(ConBus, quienNoContestaCallaYQuienNoEstaRechaza) {
@@ -85,4 +105,4 @@ TEST_F(ConBus, quienNoContestaCallaYQuienNoEstaRechaza) {
 }
 
 }  // namespace
-}  // namespace zorve
+}  // namespace zorve::ayudante

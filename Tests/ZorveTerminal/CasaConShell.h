@@ -11,7 +11,7 @@
 
 #include "Dobles/CarpetaTemporal.h"
 #include "Dobles/Pseudoterminal.h"
-#include "ZorveTerminal/GuionDeShell.h"
+#include "ZorveTerminal/PalabrasDelGuion.h"
 
 namespace zorve::dobles {
 
@@ -37,10 +37,12 @@ class CasaConShell {
   }
 
   [[nodiscard]] Pseudoterminal abrir(std::string const& directorio, std::string const& comando,
-                                     std::string const& senal = {}) const {
-    return {palabrasDelGuion({directorio, comando, shell_, "", senal}),
-            {"HOME=" + carpeta_.ruta(), "PATH=/usr/local/bin:/usr/bin:/bin", "TERM=dumb", "LANG=C.UTF-8",
-             "TMPDIR=" + carpeta_.dentro("temporal"), "ENV=" + carpeta_.dentro(".shrc")},
+                                     std::string const& path = "/usr/local/bin:/usr/bin:/bin") const {
+    ayudante::CarpetaDePaso paso{lugar};
+    paso.dejar();
+    return {ayudante::palabrasDelGuion({directorio, comando, shell_, ""}, paso, lugar),
+            {"HOME=" + carpeta_.ruta(), "PATH=" + path, "TERM=dumb", "LANG=C.UTF-8",
+             "ENV=" + carpeta_.dentro(".shrc")},
             carpeta_.ruta()};
   }
 
@@ -63,7 +65,7 @@ class CasaConShell {
   }
 
   void noQuedanCarpetas() const {
-    for (auto const& resto : std::filesystem::directory_iterator(carpeta_.dentro("temporal"))) {
+    for (auto const& resto : std::filesystem::directory_iterator(lugar.carpeta)) {
       EXPECT_FALSE(resto.path().filename().string().starts_with("zorve")) << resto.path();
     }
   }
@@ -76,6 +78,10 @@ class CasaConShell {
  private:
   std::string shell_;
   CarpetaTemporal carpeta_;
+
+ public:
+  /// Where the order is left.
+  ayudante::LugarDePaso lugar{carpeta_.carpeta("temporal"), true};
 };
 
 }  // namespace zorve::dobles

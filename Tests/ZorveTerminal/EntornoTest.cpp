@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace zorve {
+namespace zorve::ayudante {
 namespace {
 
 using Textos = std::vector<std::string>;
@@ -47,4 +47,4 @@ TEST(Entorno, laShellEsLaDelEntornoSiSePuedeCorrer) {
 TEST(Entorno, unaCarpetaNoEsUnaShell) { EXPECT_NE(shellDeLaPersona(Textos{"SHELL=/"}), "/"); }
 
 }  // namespace
-}  // namespace zorve
+}  // namespace zorve::ayudante

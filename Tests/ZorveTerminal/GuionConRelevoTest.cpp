@@ -6,7 +6,7 @@
 
 #include "ZorveTerminal/CasaConShell.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 namespace {
 
 using Casa = dobles::CasaConShell;
@@ -85,4 +85,4 @@ TEST(GuionConRelevos, unaShellQueSoloEmpiezaComoHijaDeLosAjustesNoCorreLaLinea) 
 }
 
 }  // namespace
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -1,17 +1,20 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <thread>
 #include <vector>
 
 #include "Dobles/CarpetaTemporal.h"
 #include "Dobles/Pseudoterminal.h"
-#include "ZorveCore/Escape.h"
+#include "ZorveCore/Texto/Escape.h"
+#include "ZorveTerminal/CarpetaDePaso.h"
 #include "ZorveTerminal/CasaConShell.h"
-#include "ZorveTerminal/GuionDeShell.h"
+#include "ZorveTerminal/PalabrasDelGuion.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 namespace {
 
 using Casa = dobles::CasaConShell;
@@ -79,15 +82,13 @@ TEST_P(GuionEnCadaShell, controlCTerminaLaOrdenYNoLaShell) {
 
 TEST_P(GuionEnCadaShell, noDejaArchivosNiVariables) {
   Casa const casa{GetParam()};
-  auto const senal = casa.carpeta().carpeta("señal");
   casa.claude("env | grep -a ZORVE_; echo AQUI\n");
-  auto terminal = casa.abrir(casa.sesion(), "claude", senal);
+  auto terminal = casa.abrir(casa.sesion(), "claude");
   ASSERT_TRUE(terminal.esperar("AQUI")) << terminal.pantalla();
   ASSERT_TRUE(terminal.esperar("LISTO> ")) << terminal.pantalla();
   terminal.escribir("env | grep -a ZORV[E]_; echo fi\"\"nal\n");
   ASSERT_TRUE(terminal.esperar("final")) << terminal.pantalla();
   EXPECT_FALSE(terminal.pantalla().contains("ZORVE_")) << terminal.pantalla();
-  EXPECT_FALSE(std::filesystem::exists(senal));
   casa.noQuedanCarpetas();
 }
 
@@ -116,6 +117,21 @@ TEST_P(GuionConTrabajos, controlZLaDetieneYFgLaSigue) {
   ASSERT_TRUE(terminal.esperar("LISTO> ")) << terminal.pantalla();
   terminal.escribir("echo su\"\"ma\n");
   EXPECT_TRUE(terminal.esperar("suma")) << terminal.pantalla();
+}
+
+/// fish runs programs of its own at its start.
+TEST_P(GuionConTrabajos, ningunProgramaDelDirectorioHaceElTrabajoDelGuion) {
+  Casa const casa{GetParam()};
+  for (auto const* const nombre : {"grep", "mktemp", "rm", "rmdir", "mkdir", "cat"}) {
+    auto const ruta =
+        casa.carpeta().escribir(std::string{"sesión/"} + nombre, "#!/bin/sh\n: >\"$HOME/ajeno\"\n");
+    std::filesystem::permissions(ruta, std::filesystem::perms{0755});
+  }
+  auto terminal = casa.abrir(casa.sesion(), "echo AQUI", ".::/usr/local/bin:/usr/bin:/bin");
+  ASSERT_TRUE(terminal.esperar("AQUI")) << terminal.pantalla();
+  ASSERT_TRUE(terminal.esperar("LISTO> ")) << terminal.pantalla();
+  EXPECT_FALSE(std::filesystem::exists(casa.carpeta().dentro("ajeno")));
+  casa.noQuedanCarpetas();
 }
 
 class GuionConHistorial : public testing::TestWithParam<std::string> {};
@@ -173,31 +189,89 @@ TEST(Guion, unDirectorioQueEmpiezaPorGuionNoEsUnaOpcion) {
 TEST(Guion, laCasaDeLaPersonaPuedeSerOtraQueLaQueDiceElTerminal) {
   CarpetaTemporal const carpeta;
   carpeta.escribir(".bashrc", "PS1='CASA> '\n");
-  Pseudoterminal terminal{palabrasDelGuion({"/", "echo \"<$HOME>\"", "/bin/bash", carpeta.ruta(), ""}),
-                          {"HOME=/otra", "PATH=/usr/bin:/bin", "TERM=dumb"},
-                          "/"};
+  LugarDePaso const lugar{carpeta.carpeta("r"), true};
+  CarpetaDePaso paso{lugar};
+  paso.dejar();
+  Pseudoterminal terminal{
+      palabrasDelGuion({"/", "echo \"<$HOME>\"", "/bin/bash", carpeta.ruta()}, paso, lugar),
+      {"HOME=/otra", "PATH=/usr/bin:/bin", "TERM=dumb"},
+      "/"};
   EXPECT_TRUE(terminal.esperar("<" + carpeta.ruta() + ">")) << terminal.pantalla();
   EXPECT_TRUE(terminal.esperar("CASA> ")) << terminal.pantalla();
 }
 
-TEST(Guion, lasPalabrasNoLlevanNingunByteDeLaOrdenSinCodificar) {
-  auto const palabras = palabrasDelGuion({"/a$HOME\\b", "claude -r 'x'", "/bin/bash", "", ""});
-  ASSERT_EQ(palabras.size(), 4U);
-  EXPECT_EQ(palabras[0], "/bin/sh");
-  EXPECT_EQ(palabras[1], "-c");
-  EXPECT_FALSE(palabras[2].contains('\\'));
-  EXPECT_FALSE(palabras[2].contains("claude"));
-  EXPECT_FALSE(palabras[2].contains("HOME"));
+TEST(Guion, lasPalabrasSoloNombranLaCarpetaQueNadieMasAbre) {
+  CarpetaTemporal const carpeta;
+  CarpetaDePaso const paso{{carpeta.ruta(), true}};
+  auto const palabras = palabrasDelGuion({"/un/secreto", "claude -r 'x'", "/bin/bash", "/casa"}, paso, {});
+  EXPECT_EQ(palabras, (std::vector<std::string>{"/bin/sh", paso.ruta() + "/orden"}));
+  EXPECT_EQ(std::filesystem::status(paso.ruta()).permissions(), std::filesystem::perms{0700});
+  EXPECT_EQ(std::filesystem::status(paso.ruta() + "/orden").permissions(), std::filesystem::perms{0600});
+  EXPECT_EQ(std::filesystem::status(paso.ruta() + "/linea").permissions(), std::filesystem::perms{0600});
 }
 
-TEST(Guion, base64SegunSusEjemplos) {
-  EXPECT_EQ(base64(""), "");
-  EXPECT_EQ(base64("f"), "Zg==");
-  EXPECT_EQ(base64("fo"), "Zm8=");
-  EXPECT_EQ(base64("foo"), "Zm9v");
-  EXPECT_EQ(base64("foobar"), "Zm9vYmFy");
-  EXPECT_EQ(base64("\xff\xfe\xfd"), "//79");
+/// The settings put tmux in the shell's place: what they were handed lives on in its server.
+class GuionYTmux : public testing::TestWithParam<std::string> {
+ protected:
+  [[nodiscard]] std::string entornoEnTmux(Casa const& casa) const {
+    auto const dentro = "env >\"$HOME/entorno\"; : >\"$HOME/hecho\"";
+    casa.carpeta().escribir("dentro", dentro);
+    auto const ajustes = "TERM=xterm; [ -n \"$TMUX\" ] || exec tmux -f /dev/null -S " +
+                         casa.carpeta().dentro("t") + " new-session '. ~/dentro'\n";
+    for (auto const* const archivo : {".bashrc", ".shrc", ".zshrc"})
+      casa.carpeta().escribir(archivo, ajustes);
+    auto terminal = casa.abrir(casa.sesion(), "claude -r secreto");
+    for (int i = 0; i < 400 && !std::filesystem::exists(casa.carpeta().dentro("hecho")); ++i) {
+      (void)terminal.esperar("nunca", std::chrono::seconds{0});
+      std::this_thread::sleep_for(std::chrono::milliseconds{25});
+    }
+    return "\n" + casa.leer("entorno");
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(Shells, GuionYTmux, testing::Values("/bin/bash", "/bin/zsh", "/bin/dash"),
+                         [](auto const& shell) { return shell.param.substr(shell.param.rfind('/') + 1); });
+
+TEST_P(GuionYTmux, enSuServidorNoQuedaNiLaLineaNiUnaCarpetaQueOtrosPuedanRehacer) {
+  Casa casa{GetParam()};
+  casa.lugar.privado = false;
+  auto const entorno = entornoEnTmux(casa);
+  ASSERT_TRUE(entorno.contains("\nTMUX=")) << entorno;
+  EXPECT_FALSE(entorno.contains("secreto")) << entorno;
+  EXPECT_FALSE(entorno.contains(casa.lugar.carpeta + "/zorve-")) << entorno;
+}
+
+/// The environment within tmux, which the settings of zsh put in its place; `orden` runs there.
+std::string entornoEnTmuxDeZsh(std::string const& orden) {
+  Casa const casa{"/bin/zsh"};
+  casa.carpeta().escribir("dentro", "env >~/entorno; : >~/hecho\n");
+  casa.carpeta().escribir(".zshrc", "TERM=xterm\nT=" + casa.carpeta().dentro("t") +
+                                        "\n[[ -n $TMUX ]] || exec tmux -f /dev/null -S $T new-session '" +
+                                        orden + "'\n");
+  auto terminal = casa.abrir(casa.sesion(), "claude -r secreto");
+  for (int i = 0; i < 400 && !std::filesystem::exists(casa.carpeta().dentro("hecho")); ++i) {
+    (void)terminal.esperar("nunca", std::chrono::seconds{0});
+    std::this_thread::sleep_for(std::chrono::milliseconds{25});
+  }
+  auto const entorno = "\n" + casa.leer("entorno");
+  EXPECT_TRUE(entorno.contains("\nTMUX=")) << entorno << terminal.pantalla();
+  return entorno;
+}
+
+TEST(GuionYTmuxEnZsh, dondeNadieTomaElRelevoNoSeEntregaNada) {
+  auto const entorno = entornoEnTmuxDeZsh(". ~/dentro");
+  EXPECT_FALSE(entorno.contains("\nZORVE_")) << entorno;
+  EXPECT_FALSE(entorno.contains("/temporal/zorve-")) << entorno;
+}
+
+TEST(GuionYTmuxEnZsh, otraShellQueHeredaElRelevoSeLoQuita) {
+  auto const entorno = entornoEnTmuxDeZsh("dash -i -c \". ~/dentro\" # exec sh");
+  EXPECT_FALSE(entorno.contains("\nZORVE_")) << entorno;
+  for (auto const* const nuestra : {"\nZDOTDIR=", "\nXDG_DATA_DIRS=", "\nPROMPT_COMMAND="}) {
+    EXPECT_FALSE(entorno.contains(nuestra)) << entorno;
+  }
+  EXPECT_TRUE(entorno.contains("/.shrc\n")) << "the person's own ENV is back";
 }
 
 }  // namespace
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -14,7 +14,7 @@
 
 #include "Dobles/CarpetaTemporal.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 namespace {
 
 using namespace std::chrono_literals;
@@ -129,6 +129,16 @@ TEST_F(Lanzado, unFalloDespuesDeLaSenalYaNoEsTemprano) {
   EXPECT_TRUE(lanzar(lanzamiento, mucho));
 }
 
+TEST_F(Lanzado, loQueDiceDespuesDeAbrirNoSeGuarda) {
+  auto lanzamiento = guion(
+      "echo antes; rmdir $1/senal; while ! [ -e $1/sigue ]; do sleep 0.01; done; "
+      "head -c 1000000 /dev/zero 2>$1/queja; stat -L -c %s /proc/$$/fd/1 >$1/tamano");
+  lanzamiento.senal = carpeta.carpeta("senal");
+  ASSERT_TRUE(lanzar(lanzamiento, mucho));
+  carpeta.escribir("sigue", "");
+  EXPECT_EQ(esperarContenido(carpeta.dentro("tamano")), "0\n");
+}
+
 TEST_F(Lanzado, estaEnUnaSesionPropiaYEnSuDirectorio) {
   ASSERT_TRUE(lanzar(guion("ps -o sid= -p $$ >sesion; echo $$ >pid"), mucho));
   EXPECT_EQ(std::stoi(contenido(carpeta.dentro("sesion"))), std::stoi(contenido(carpeta.dentro("pid"))));
@@ -157,4 +167,4 @@ TEST_F(Lanzado, noHeredaDescriptoresNiSenales) {
 }
 
 }  // namespace
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -11,7 +11,7 @@
 #include "Dobles/CarpetaTemporal.h"
 #include "Dobles/Pseudoterminal.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 namespace {
 
 /// A shell that waits on a terminal device of its own.
@@ -94,7 +94,7 @@ TEST_F(MarcaDeTituloTest, otroLiderOtroDispositivoUnEnlaceOUnArchivoNoRecibenNad
 }
 
 TEST_F(MarcaDeTituloTest, unDispositivoDeOtroUsuarioNoRecibeNada) {
-  if (::geteuid() != 0) return;
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can be another user";
   ASSERT_EQ(::chown(tty.c_str(), 65534, static_cast<gid_t>(-1)), 0);
   auto const marca = MarcaDeTitulo::poner(tty, lider);
   ASSERT_FALSE(marca);
@@ -103,4 +103,4 @@ TEST_F(MarcaDeTituloTest, unDispositivoDeOtroUsuarioNoRecibeNada) {
 }
 
 }  // namespace
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -16,7 +16,7 @@
 #include "Dobles/Pseudoterminal.h"
 #include "Dobles/SinPrivilegios.h"
 
-namespace zorve {
+namespace zorve::ayudante {
 namespace {
 
 using dobles::CarpetaTemporal;
@@ -105,12 +105,27 @@ TEST(EnchufePropio, ningunaOtraCosaLoEs) {
   }
 }
 
+TEST(EnchufePropio, elDeUnaCarpetaDondeOtrosEscribenNo) {
+  CarpetaTemporal const carpeta;
+  auto const ruta = carpeta.carpeta("c") + "/e";
+  enchufeEn(ruta);
+  ASSERT_EQ(enchufePropio(ruta), ruta);
+  std::filesystem::permissions(carpeta.dentro("c"), std::filesystem::perms{0777});
+  EXPECT_EQ(enchufePropio(ruta), std::nullopt);
+  std::filesystem::permissions(carpeta.dentro("c"), std::filesystem::perms{01777});
+  EXPECT_EQ(enchufePropio(ruta), ruta) << "sticky";
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can give the folder to another group";
+  std::filesystem::permissions(carpeta.dentro("c"), std::filesystem::perms{02775});
+  ASSERT_EQ(::chown(carpeta.dentro("c").c_str(), 0, 61001), 0);
+  EXPECT_EQ(enchufePropio(ruta), std::nullopt);
+}
+
 TEST(EnchufePropio, elDeOtraPersonaNo) {
   CarpetaTemporal const carpeta;
   auto const ruta = carpeta.dentro("e");
   enchufeEn(ruta);
   ASSERT_EQ(enchufePropio(ruta), ruta);
-  if (::geteuid() != 0) return;
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can be another user";
   dobles::SinPrivilegios const otra;
   EXPECT_EQ(enchufePropio(ruta), std::nullopt);
 }
@@ -190,4 +205,4 @@ TEST_F(EnUnTty, unPaneQueElServidorNoConoceNoEsta) {
 }
 
 }  // namespace
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace zorve {
+namespace zorve::ayudante {
 namespace {
 
 TEST(VentanasDeLaRespuesta, sonLasDelGuionConNombreProcesoYTitulo) {
@@ -26,4 +26,4 @@ TEST(VentanasDeLaRespuesta, loQueNoSeEntiendeNoTieneVentanas) {
 }
 
 }  // namespace
-}  // namespace zorve
+}  // namespace zorve::ayudante

@@ -45,6 +45,18 @@ TEST(ZorvectlList, elJsonTieneLaFormaExacta) {
           "\n");
 }
 
+TEST(ZorvectlList, elJsonNoLlevaNingunByteQueGobierneElTerminal) {
+  Hogar const hogar;
+  hogar.transcripcion(Hogar::uno, "{}\n");
+  hogar.historia(prompt(Hogar::uno, "\u009d0;x\u009c \x7f \u202e \u2066 \u200f ñ日\U0001F600", "/srv/uno",
+                        1'700'000'000'000));
+  auto const corrida = hogar.zorvectl({"list", "--json"});
+  EXPECT_EQ(corrida.codigo, 0) << corrida.error;
+  EXPECT_TRUE(
+      corrida.salida.contains(R"("ultimoPrompt":"\u009d0;x\u009c \u007f \u202e \u2066 \u200f ñ日😀")"))
+      << corrida.salida;
+}
+
 TEST(ZorvectlList, losAvisosVanEnElJsonSinTocarYEnTextoAlErrorConPalabrasDeAqui) {
   Hogar const hogar;
   auto const json = hogar.zorvectl({"list", "--json"});

@@ -76,6 +76,16 @@ TEST_F(ZorvectlPlan, unPrefijoAmbiguoNombraLasSesiones) {
   EXPECT_THAT(corrida.error, EndsWith("); give more of the identifier\n"));
 }
 
+TEST_F(ZorvectlPlan, openNoTecleaCaracteresDeControl) {
+  auto const corrida = zorvectl(
+      {"open", "--cwd", "/tmp/x\x15touch PWNED\r", "--command", "true", "--terminal", "com.apple.Terminal"});
+  EXPECT_EQ(corrida.codigo, 1);
+  EXPECT_EQ(corrida.salida, "");
+  EXPECT_THAT(corrida.error,
+              StartsWith("zorvectl: The session in /tmp/x\u2415touch PWNED\u240d cannot be opened "));
+  EXPECT_EQ(corrida.error.find('\n'), corrida.error.size() - 1);
+}
+
 TEST_F(ZorvectlPlan, unaSesionDesconocidaEsUnFallo) {
   conSesion(Hogar::uno, "/a");
   falla({"plan", "zz\x1B[31m", "--terminal", "com.apple.Terminal"},

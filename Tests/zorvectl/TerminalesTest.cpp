@@ -151,7 +151,7 @@ TEST_F(ZorvectlTerminales, laTablaCabeEnElAnchoPedidoYNoLlevaColoresFueraDeUnaTe
 TEST_F(ZorvectlTerminales, sinNingunaLaTablaSaleYElErrorDiceQueFalta) {
   auto const corrida = zorvectl({"terminals"});
   EXPECT_EQ(corrida.codigo, 0);
-  EXPECT_THAT(corrida.salida, Not(ContainsRegex(" installed *\n\\| installed  ")));
+  EXPECT_THAT(corrida.salida, Not(ContainsRegex("  installed")));
   EXPECT_THAT(corrida.error, StartsWith("launcher: Zorve found no known terminal installed (it looks for "));
 }
 

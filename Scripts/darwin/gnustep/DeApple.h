@@ -43,6 +43,9 @@ typedef NSObject* dispatch_queue_t;
 extern "C" dispatch_queue_t dispatch_get_main_queue(void);
 extern "C" void dispatch_async(dispatch_queue_t queue, void (^block)(void));
 
+// Documentation: Objective-C Runtime, sel_isEqual
+extern "C" BOOL sel_isEqual(SEL lhs, SEL rhs);
+
 // Documentation: AppKit, NSEvent.ModifierFlags, NSEvent.EventType, NSEvent.EventTypeMask
 enum : NSEventModifierFlags {
   NSEventModifierFlagCapsLock = 1 << 16,
@@ -55,10 +58,27 @@ enum : NSEventModifierFlags {
   NSEventModifierFlagFunction = 1 << 23,
   NSEventModifierFlagDeviceIndependentFlagsMask = 0xffff0000UL,
 };
-enum : NSEventType { NSEventTypeRightMouseUp = 4, NSEventTypeKeyDown = 10 };
-enum : NSEventMask { NSEventMaskLeftMouseUp = 1 << 2, NSEventMaskRightMouseUp = 1 << 4 };
+enum : NSEventType {
+  NSEventTypeLeftMouseDown = 1,
+  NSEventTypeLeftMouseUp = 2,
+  NSEventTypeRightMouseDown = 3,
+  NSEventTypeRightMouseUp = 4,
+  NSEventTypeKeyDown = 10
+};
+enum : NSEventMask {
+  NSEventMaskLeftMouseDown = 1 << 1,
+  NSEventMaskLeftMouseUp = 1 << 2,
+  NSEventMaskRightMouseDown = 1 << 3,
+  NSEventMaskRightMouseUp = 1 << 4,
+  NSEventMaskOtherMouseDown = 1 << 25
+};
+// Documentation: AppKit, NSEvent
 @interface NSEvent (DeApple)
 @property(getter=isARepeat, readonly) BOOL ARepeat;
+- (nullable NSString*)charactersByApplyingModifiers:(NSEventModifierFlags)modifiers;
++ (nullable id)addGlobalMonitorForEventsMatchingMask:(NSEventMask)mask
+                                             handler:(void (^)(NSEvent* event))block;
++ (void)removeMonitor:(id)eventMonitor;
 @end
 
 // Documentation: AppKit, NSCompositingOperation, NSBezierPath.LineCapStyle, NSBezierPath.LineJoinStyle
@@ -110,7 +130,8 @@ extern NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotificati
 - (NSInteger)clearContents;
 @end
 
-// Documentation: QuartzCore, CALayer
+// Documentation: QuartzCore, CACurrentMediaTime, CALayer
+extern "C" double CACurrentMediaTime(void);
 @interface CALayer : NSObject
 @property(nullable) CGColorRef backgroundColor;
 @property(getter=isOpaque) BOOL opaque;
@@ -190,6 +211,7 @@ constexpr NSButtonType NSButtonTypeMomentaryChange = static_cast<NSButtonType>(5
 + (instancetype)labelWithString:(NSString*)stringValue;
 + (instancetype)wrappingLabelWithString:(NSString*)stringValue;
 @property CGFloat preferredMaxLayoutWidth;
+@property(getter=isAutomaticTextCompletionEnabled) BOOL automaticTextCompletionEnabled;
 @end
 @interface NSButton (DeApple)
 @property(nullable, copy) NSColor* contentTintColor;
@@ -217,6 +239,7 @@ enum : NSStackViewGravity { NSStackViewGravityTop = 1 };
 // Documentation: AppKit, NSScrollView
 @interface NSScrollView (DeApple)
 @property BOOL automaticallyAdjustsContentInsets;
+@property NSScrollerStyle scrollerStyle;
 @end
 
 // Documentation: AppKit, NSTableView, NSTableRowView, NSTableCellView
@@ -255,11 +278,18 @@ enum : NSVisualEffectMaterial { NSVisualEffectMaterialHUDWindow = 13 };
 - (void)viewDidLoad;
 - (void)viewWillAppear;
 - (void)viewDidAppear;
+- (void)viewWillDisappear;
+- (void)viewDidDisappear;
 @end
 
 // Documentation: AppKit, NSPopover
 enum : NSPopoverBehavior { NSPopoverBehaviorTransient = 1 };
+@protocol NSPopoverDelegate <NSObject>
+@optional
+- (void)popoverWillClose:(NSNotification*)notification;
+@end
 @interface NSPopover : NSResponder
+@property(nullable, weak) id<NSPopoverDelegate> delegate;
 @property NSSize contentSize;
 @property NSPopoverBehavior behavior;
 @property(nullable, strong) NSAppearance* appearance;

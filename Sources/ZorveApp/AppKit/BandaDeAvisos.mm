@@ -40,6 +40,7 @@ constexpr CGFloat entreTarjetas = 6;
     _columna.spacing = entreTarjetas;
     _columna.translatesAutoresizingMaskIntoConstraints = NO;
     self.drawsBackground = NO;
+    self.scrollerStyle = NSScrollerStyleOverlay;
     self.documentView = _columna;
     self.verticalScrollElasticity = NSScrollElasticityNone;
     _alto = [self.heightAnchor constraintEqualToConstant:0];

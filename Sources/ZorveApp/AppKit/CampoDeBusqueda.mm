@@ -31,6 +31,7 @@ namespace Medidas = zorve::Medidas;
     _campo.drawsBackground = NO;
     _campo.focusRingType = NSFocusRingTypeNone;
     _campo.usesSingleLineMode = YES;
+    _campo.automaticTextCompletionEnabled = NO;
     _campo.lineBreakMode = NSLineBreakByTruncatingHead;
     _campo.font = [NSFont systemFontOfSize:Medidas::letraDeBusqueda];
     _campo.textColor = zorve::colorDe(Estilo::textoAlto);

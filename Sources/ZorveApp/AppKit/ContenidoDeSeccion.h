@@ -9,8 +9,8 @@ NS_ASSUME_NONNULL_BEGIN
 /// The settings' right side: the failure band, when there is one, over the chosen section's content. It
 /// scrolls and never shows scrollers.
 @interface ContenidoDeSeccion : NSScrollView
-/// Both outlive the view.
-- (instancetype)initConValores:(zorve::VistaAjustes&)valores modelo:(zorve::ModeloDeAjustes&)modelo;
+/// `valores` outlives the view.
+- (instancetype)initConValores:(zorve::VistaAjustes&)valores;
 - (void)actualizar;
 @end
 

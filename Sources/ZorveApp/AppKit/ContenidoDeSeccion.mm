@@ -51,7 +51,6 @@ NSAttributedString* espaciado(std::string_view texto) {
 
 @implementation ContenidoDeSeccion {
   zorve::VistaAjustes* _valores;
-  zorve::ModeloDeAjustes* _modelo;
   ColumnaDeAjustes* _columna;
   /// Rows and captions are kept from one drawing to the next: the keyboard's focus stays where it is.
   NSMutableArray<FilaDeOpcion*>* _opciones;
@@ -62,10 +61,9 @@ NSAttributedString* espaciado(std::string_view texto) {
   NSUInteger _rotulosUsados;
 }
 
-- (instancetype)initConValores:(zorve::VistaAjustes&)valores modelo:(zorve::ModeloDeAjustes&)modelo {
+- (instancetype)initConValores:(zorve::VistaAjustes&)valores {
   if ((self = [super initWithFrame:NSZeroRect])) {
     _valores = &valores;
-    _modelo = &modelo;
     _opciones = [NSMutableArray array];
     _rotulos = [NSMutableArray array];
     _ultimas = [NSMutableSet set];
@@ -96,7 +94,7 @@ NSAttributedString* espaciado(std::string_view texto) {
     [vistas addObject:[[TarjetaDeAviso alloc] initConLinea:{zorve::LineaDeBanda::Clase::error, *banda}
                                                      ancho:ancho]];
   }
-  switch (*_modelo->seccion()) {
+  switch (_valores->seccion()) {
     case zorve::SeccionDeAjustes::general:
       [self poner:_valores->general() en:vistas];
       break;

@@ -8,11 +8,12 @@ NS_ASSUME_NONNULL_BEGIN
 
 /// Owns the settings window, made at its first showing and only hidden from then on.
 @interface ControladorDeAjustes : NSObject <NSWindowDelegate>
-/// Both outlive the controller.
-- (instancetype)initConModelo:(zorve::ModeloDeAjustes&)modelo
-                       idioma:(zorve::PreferenciaDeIdioma const&)idioma;
+/// `valores` outlives the controller, which installs its actions.
+- (instancetype)initConValores:(zorve::VistaAjustes&)valores;
 - (instancetype)init NS_UNAVAILABLE;
 - (void)mostrar;
+/// Called after the window closed, unless it shows again by then.
+@property(nonatomic, copy, nullable) void (^alCerrar)(void);
 @end
 
 NS_ASSUME_NONNULL_END

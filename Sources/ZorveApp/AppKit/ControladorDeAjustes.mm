@@ -1,7 +1,5 @@
 #import "ZorveApp/AppKit/ControladorDeAjustes.h"
 
-#include <optional>
-
 #import "ZorveApp/AppKit/Pintura.h"
 #import "ZorveApp/AppKit/VentanaDeAjustes.h"
 #import "ZorveApp/AppKit/VistaDeAjustes.h"
@@ -10,19 +8,14 @@
 namespace Medidas = zorve::Medidas;
 
 @implementation ControladorDeAjustes {
-  std::optional<zorve::VistaAjustes> _valores;
-  zorve::ModeloDeAjustes* _modelo;
-  zorve::PreferenciaDeIdioma const* _idioma;
+  zorve::VistaAjustes* _valores;
   VentanaDeAjustes* _ventana;
   VistaDeAjustes* _vista;
 }
 
-- (instancetype)initConModelo:(zorve::ModeloDeAjustes&)modelo
-                       idioma:(zorve::PreferenciaDeIdioma const&)idioma {
+- (instancetype)initConValores:(zorve::VistaAjustes&)valores {
   if ((self = [super init])) {
-    _modelo = &modelo;
-    _idioma = &idioma;
-    _valores.emplace(modelo, idioma, zorve::Modificador::mando);
+    _valores = &valores;
     __weak ControladorDeAjustes* const debil = self;
     _valores->acciones = {.cerrar = [debil] { [debil cerrar]; },
                           .salir = [] { [NSApplication.sharedApplication terminate:nil]; }};
@@ -34,7 +27,7 @@ namespace Medidas = zorve::Medidas;
   if (_ventana == nil) [self construir];
   _valores->aparecer();
   [_vista actualizar];
-  [NSApplication.sharedApplication activateIgnoringOtherApps:YES];
+  zorve::traerElPrograma();
   [_ventana makeKeyAndOrderFront:nil];
 }
 
@@ -60,7 +53,7 @@ namespace Medidas = zorve::Medidas;
   _ventana.delegate = self;
   [_ventana alPulsar:[self teclas]];
   NSView* const contenedor = [[NSView alloc] initWithFrame:marco];
-  _vista = [[VistaDeAjustes alloc] initConValores:*_valores modelo:*_modelo idioma:*_idioma];
+  _vista = [[VistaDeAjustes alloc] initConValores:*_valores];
   zorve::llenar(_vista, contenedor);
   _ventana.contentView = contenedor;
   [_ventana center];
@@ -76,6 +69,17 @@ namespace Medidas = zorve::Medidas;
 
 - (BOOL)tecla:(zorve::Pulsacion const&)pulsacion {
   return _valores->tecla(pulsacion) ? YES : NO;
+}
+
+- (void)windowWillClose:(NSNotification*)nota {
+  __weak ControladorDeAjustes* const debil = self;
+  dispatch_async(dispatch_get_main_queue(), ^{
+    [debil avisarDelCierre];
+  });
+}
+
+- (void)avisarDelCierre {
+  if (![_ventana isVisible] && self.alCerrar != nil) self.alCerrar();
 }
 
 - (void)windowDidBecomeKey:(NSNotification*)nota {

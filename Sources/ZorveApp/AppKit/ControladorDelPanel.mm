@@ -9,6 +9,7 @@
 #import "ZorveApp/AppKit/PieDelPanel.h"
 #import "ZorveApp/AppKit/Pintura.h"
 #import "ZorveApp/AppKit/RaizConTeclas.h"
+#import "ZorveApp/AppKit/Teclas.h"
 #import "ZorveApp/AppKit/VidrioDeFondo.h"
 #include "ZorvePlatform/MacOS/Cadenas.h"
 
@@ -16,8 +17,6 @@ namespace Medidas = zorve::Medidas;
 
 @implementation ControladorDelPanel {
   zorve::PanelView* _panel;
-  zorve::ModeloDeVista* _modelo;
-  zorve::PreferenciaDeIdioma const* _idioma;
   CampoDeBusqueda* _busqueda;
   BandaDeAvisos* _banda;
   ListaDeSesiones* _lista;
@@ -27,15 +26,9 @@ namespace Medidas = zorve::Medidas;
   BOOL _pedida;
 }
 
-- (instancetype)initConPanel:(zorve::PanelView&)panel
-                      modelo:(zorve::ModeloDeVista&)modelo
-                      idioma:(zorve::PreferenciaDeIdioma const&)idioma {
+- (instancetype)initConPanel:(zorve::PanelView&)panel {
   if ((self = [super initWithNibName:nil bundle:nil])) {
     _panel = &panel;
-    _modelo = &modelo;
-    _idioma = &idioma;
-    panel.acciones = {.esconder = [] { [NSApplication.sharedApplication hide:nil]; },
-                      .salir = [] { [NSApplication.sharedApplication terminate:nil]; }};
   }
   return self;
 }
@@ -79,9 +72,7 @@ namespace Medidas = zorve::Medidas;
 - (void)viewDidLoad {
   [super viewDidLoad];
   __weak ControladorDelPanel* const debil = self;
-  auto const alCambiar = [debil] { [debil pedirActualizacion]; };
-  _suscripciones = _modelo->observar(alCambiar);
-  _suscripciones.push_back(_idioma->idioma().observar(alCambiar));
+  _suscripciones = _panel->observar([debil] { [debil pedirActualizacion]; });
 }
 
 - (void)viewWillAppear {
@@ -110,7 +101,7 @@ namespace Medidas = zorve::Medidas;
   _pedida = NO;
   // While the field is being edited it is the one that writes: an input method may be composing in it.
   if (_busqueda.campo.currentEditor == nil) {
-    _busqueda.campo.stringValue = zorve::cadena(*_modelo->consulta());
+    _busqueda.campo.stringValue = zorve::cadena(_panel->consulta());
   }
   [_banda mostrar:_panel->banda()];
   [_lista actualizar];
@@ -118,12 +109,15 @@ namespace Medidas = zorve::Medidas;
 }
 
 - (void)controlTextDidChange:(NSNotification*)nota {
-  _modelo->escribirConsulta(zorve::textoDe(_busqueda.campo.stringValue));
+  _panel->escribirConsulta(zorve::textoDe(_busqueda.campo.stringValue));
 }
 
-/// Keys reach this only after the input method has had them.
+/// Keys reach this only after the input method has had them; voices and devices send orders without a key.
 - (BOOL)control:(NSControl*)control textView:(NSTextView*)editor doCommandBySelector:(SEL)orden {
-  return [static_cast<RaizConTeclas*>(self.view) probar:NSApplication.sharedApplication.currentEvent];
+  NSEvent* const evento = NSApplication.sharedApplication.currentEvent;
+  if (evento.type == NSEventTypeKeyDown) return [static_cast<RaizConTeclas*>(self.view) probar:evento];
+  auto const pulsacion = zorve::pulsacionDeOrden(orden);
+  return pulsacion && _panel->tecla(*pulsacion) ? YES : NO;
 }
 
 @end

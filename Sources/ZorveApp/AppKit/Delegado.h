@@ -4,8 +4,8 @@
 
 #include "ZorveApp/EstadoDelPanel.h"
 #include "ZorveApp/ItemDeEstado.h"
-#include "ZorveApp/ModeloDeAjustes.h"
 #include "ZorveApp/PanelView.h"
+#include "ZorveApp/VistaAjustes.h"
 
 NS_ASSUME_NONNULL_BEGIN
 
@@ -14,8 +14,7 @@ namespace zorve {
 /// What the delegate works with. Everything referenced outlives the application's event loop.
 struct ColaboradoresDelDelegado {
   PanelView& panel;
-  ModeloDeVista& modelo;
-  ModeloDeAjustes& ajustes;
+  VistaAjustes& ajustes;
   EstadoDelPanel& estado;
   PreferenciaDeIdioma const& idioma;
   Despachador& despachador;
@@ -26,7 +25,7 @@ struct ColaboradoresDelDelegado {
 
 /// The application's delegate: the status item, the popover under it, its menu, the settings window. The
 /// rules (which click does what, when the panel shows by itself) are ItemDeEstado's.
-@interface Delegado : NSObject <NSApplicationDelegate>
+@interface Delegado : NSObject <NSApplicationDelegate, NSPopoverDelegate>
 - (instancetype)initCon:(zorve::ColaboradoresDelDelegado const&)con;
 - (instancetype)init NS_UNAVAILABLE;
 

@@ -5,27 +5,23 @@
 #include <optional>
 
 #import "ZorveApp/AppKit/CaraMac.h"
+#import "ZorveApp/AppKit/ClicsDelItem.h"
 #import "ZorveApp/AppKit/ControladorDeAjustes.h"
 #import "ZorveApp/AppKit/ControladorDelPanel.h"
 #import "ZorveApp/AppKit/MarcaDeBarra.h"
 #import "ZorveApp/AppKit/MenuDeEdicion.h"
+#import "ZorveApp/AppKit/OyenteGlobal.h"
+#import "ZorveApp/AppKit/Pintura.h"
 #include "ZorveApp/Estilo.h"
 #include "ZorvePlatform/MacOS/Cadenas.h"
-
-namespace {
-
-std::optional<zorve::ClicEnLaBarra> clicDe(NSEvent* _Nullable evento) {
-  if (evento == nil) return std::nullopt;
-  return zorve::ClicEnLaBarra{.derecho = evento.type == NSEventTypeRightMouseUp,
-                              .conControl = (evento.modifierFlags & NSEventModifierFlagControl) != 0};
-}
-
-}  // namespace
 
 @implementation Delegado {
   std::optional<zorve::ColaboradoresDelDelegado> _con;
   std::optional<zorve::CaraMac> _cara;
   std::optional<zorve::ItemDeEstado> _reglas;
+  zorve::ClicsDelItem _clics;
+  std::optional<zorve::OyenteGlobal> _clicsDerechos;
+  std::optional<zorve::OyenteGlobal> _pulsacionesFuera;
   NSStatusItem* _item;
   NSPopover* _popover;
   ControladorDeAjustes* _ajustes;
@@ -35,11 +31,21 @@ std::optional<zorve::ClicEnLaBarra> clicDe(NSEvent* _Nullable evento) {
   if ((self = [super init])) {
     _con.emplace(con);
     _popover = [[NSPopover alloc] init];
-    _ajustes = [[ControladorDeAjustes alloc] initConModelo:con.ajustes idioma:con.idioma];
+    _ajustes = [[ControladorDeAjustes alloc] initConValores:con.ajustes];
+    [self instalarAcciones];
     _cara.emplace(self);
     _reglas.emplace(*_cara, con.estado, con.idioma, con.despachador, con.primerArranque);
   }
   return self;
+}
+
+- (void)instalarAcciones {
+  __weak Delegado* const debil = self;
+  _con->panel.acciones = {.esconder = [debil] { [debil esconder]; },
+                          .salir = [] { [NSApplication.sharedApplication terminate:nil]; }};
+  _ajustes.alCerrar = ^{
+    [debil cerradosLosAjustes];
+  };
 }
 
 - (void)applicationDidFinishLaunching:(NSNotification*)nota {
@@ -52,10 +58,9 @@ std::optional<zorve::ClicEnLaBarra> clicDe(NSEvent* _Nullable evento) {
 - (void)prepararPanel {
   _popover.contentSize = NSMakeSize(zorve::Medidas::panel.ancho, zorve::Medidas::panel.alto);
   _popover.behavior = NSPopoverBehaviorTransient;
+  _popover.delegate = self;
   _popover.appearance = [NSAppearance appearanceNamed:NSAppearanceNameDarkAqua];
-  _popover.contentViewController = [[ControladorDelPanel alloc] initConPanel:_con->panel
-                                                                      modelo:_con->modelo
-                                                                      idioma:_con->idioma];
+  _popover.contentViewController = [[ControladorDelPanel alloc] initConPanel:_con->panel];
 }
 
 - (void)prepararItem {
@@ -66,10 +71,24 @@ std::optional<zorve::ClicEnLaBarra> clicDe(NSEvent* _Nullable evento) {
   boton.target = self;
   boton.action = @selector(clickEnLaBarra:);
   [boton sendActionOn:NSEventMaskLeftMouseUp | NSEventMaskRightMouseUp];
+  __weak Delegado* const debil = self;
+  _clicsDerechos.emplace(NSEventMaskRightMouseUp, ^(NSEvent* evento) {
+    [debil clicDerechoDeOtros:evento];
+  });
 }
 
 - (void)clickEnLaBarra:(nullable id)quien {
-  _reglas->clic(clicDe(NSApplication.sharedApplication.currentEvent));
+  auto const clic = _clics.delBoton(NSApplication.sharedApplication.currentEvent, _item.button.window);
+  if (clic.que == zorve::ClicsDelItem::Que::suyo) _reglas->clic(clic.evento);
+}
+
+/// Where the system draws the menu bar's items itself it hands right clicks to its own program.
+- (void)clicDerechoDeOtros:(NSEvent*)evento {
+  NSStatusBarButton* const boton = _item.button;
+  if (boton == nil) return;
+  NSRect const lugar = [boton.window convertRectToScreen:[boton convertRect:boton.bounds toView:nil]];
+  if (!NSPointInRect(NSEvent.mouseLocation, lugar) || !_clics.deOyente(evento)) return;
+  _reglas->clic(zorve::ClicEnLaBarra{.derecho = true});
 }
 
 - (BOOL)applicationShouldHandleReopen:(NSApplication*)aplicacion hasVisibleWindows:(BOOL)hayVentanas {
@@ -87,7 +106,8 @@ std::optional<zorve::ClicEnLaBarra> clicDe(NSEvent* _Nullable evento) {
 - (void)mostrar {
   NSStatusBarButton* const boton = _item.button;
   if (boton == nil) return;
-  [NSApplication.sharedApplication activateIgnoringOtherApps:YES];
+  zorve::traerElPrograma();
+  [self oirPulsacionesFuera];
   [_popover showRelativeToRect:boton.bounds ofView:boton preferredEdge:NSRectEdgeMinY];
   [_popover.contentViewController.view.window makeKeyWindow];
   [self transparentar];
@@ -95,6 +115,31 @@ std::optional<zorve::ClicEnLaBarra> clicDe(NSEvent* _Nullable evento) {
 
 - (void)cerrarPanel {
   [_popover performClose:nil];
+}
+
+/// A transient popover of a program without windows does not hear of presses in other programs.
+- (void)oirPulsacionesFuera {
+  __weak Delegado* const debil = self;
+  _pulsacionesFuera.emplace(
+      NSEventMaskLeftMouseDown | NSEventMaskRightMouseDown | NSEventMaskOtherMouseDown, ^(NSEvent*) {
+        [debil cerrarPanel];
+      });
+}
+
+- (void)popoverWillClose:(NSNotification*)nota {
+  _clics.cerroElPanel(CACurrentMediaTime());
+  _pulsacionesFuera.reset();
+}
+
+- (void)esconder {
+  [self cerrarPanel];
+  [NSApplication.sharedApplication hide:nil];
+}
+
+/// With nothing more to show the program that was in front before gets the keyboard back.
+- (void)cerradosLosAjustes {
+  NSApplication* const app = NSApplication.sharedApplication;
+  if ([app isActive] && !_popover.shown) [app hide:nil];
 }
 
 /// The popover's own frame view, so that the panel's glass reaches every edge.

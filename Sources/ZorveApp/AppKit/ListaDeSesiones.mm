@@ -92,7 +92,7 @@ NSTableView* tablaSinAdornos() {
   bool const esOtra = elegida != _elegida;
   _elegida = std::move(elegida);
   if (!fila) {
-    [_tabla deselectAll:nil];
+    [_tabla selectRowIndexes:[NSIndexSet indexSet] byExtendingSelection:NO];
     return;
   }
   auto const posicion = static_cast<NSInteger>(*fila);

@@ -26,6 +26,9 @@ void llenar(NSView* dentro, NSView* fuera);
 /// Adds `dentro` to `fuera`, to be placed by constraints.
 void colgar(NSView* dentro, NSView* fuera);
 
+/// Out of hiding, and in front of the other programs.
+void traerElPrograma();
+
 [[nodiscard]] BOOL masContraste();
 [[nodiscard]] BOOL menosTransparencia();
 

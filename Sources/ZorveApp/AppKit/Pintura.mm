@@ -64,6 +64,12 @@ void llenar(NSView* dentro, NSView* fuera) {
   ]];
 }
 
+void traerElPrograma() {
+  NSApplication* const app = NSApplication.sharedApplication;
+  if ([app isHidden]) [app unhideWithoutActivation];
+  [app activateIgnoringOtherApps:YES];
+}
+
 BOOL masContraste() { return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldIncreaseContrast; }
 
 BOOL menosTransparencia() { return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldReduceTransparency; }

@@ -3,12 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "ZorveApp/EstadoDelPanel.h"
-#include "ZorveApp/Idioma.h"
-#include "ZorveApp/ModeloDeAjustes.h"
-#include "ZorveApp/ModeloDeVista.h"
-#include "ZorveApp/PanelView.h"
-#include "ZorveCore/PrimerArranque.h"
+#include "ZorveApp/Interfaz.h"
 #include "ZorvePlatform/MacOS/DespachadorMac.h"
 #include "ZorvePlatform/MacOS/InicioDeSesionMac.h"
 #include "ZorvePlatform/MacOS/PortapapelesMac.h"
@@ -19,12 +14,12 @@
 
 namespace zorve {
 
-/// Every real object of the application and the models over them. It is never destroyed: tasks that still run
-/// when the program ends use its parts.
+/// Every real object of the application and the interface over them. It is never destroyed: tasks that still
+/// run when the program ends use its parts.
 class Programa {
  public:
   /// `home` is absolute, without a slash at its end; `version` is the bundle's, nothing outside of one.
-  Programa(std::string home, ReglaDePlegado regla, std::optional<std::string> version);
+  Programa(std::string const& home, ReglaDePlegado regla, std::optional<std::string> const& version);
   Programa(Programa const&) = delete;
   Programa& operator=(Programa const&) = delete;
   ~Programa() = delete;
@@ -36,20 +31,10 @@ class Programa {
   PortapapelesMac portapapeles_;
   InicioDeSesionMac inicio_;
   ServiciosDeTerminal servicios_;
-  BanderasDeUsuario banderas_;
 
  public:
   DespachadorMac despachador;
-  PreferenciaDeIdioma idioma;
-  EstadoDelPanel estado;
-  ModeloDeVista modelo;
-  ModeloDeAjustes ajustes;
-  PanelView panel;
-  PrimerArranque primerArranque{banderas_};
-
- private:
-  [[nodiscard]] ColaboradoresDelModelo delModelo(std::string const& home, ReglaDePlegado regla);
-  [[nodiscard]] ColaboradoresDeAjustes deAjustes(std::optional<std::string> version);
+  Interfaz interfaz;
 };
 
 }  // namespace zorve

@@ -8,10 +8,8 @@ NS_ASSUME_NONNULL_BEGIN
 
 /// The settings window's content: the sections on the left, the chosen one's content on the right.
 @interface VistaDeAjustes : NSView
-/// All outlive the view.
-- (instancetype)initConValores:(zorve::VistaAjustes&)valores
-                        modelo:(zorve::ModeloDeAjustes&)modelo
-                        idioma:(zorve::PreferenciaDeIdioma const&)idioma;
+/// `valores` outlives the view.
+- (instancetype)initConValores:(zorve::VistaAjustes&)valores;
 /// Shows the values as they are now.
 - (void)actualizar;
 /// The window came to the front or went back: the glass stays active.

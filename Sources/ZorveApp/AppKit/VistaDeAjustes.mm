@@ -17,21 +17,17 @@ namespace Medidas = zorve::Medidas;
   BOOL _pedida;
 }
 
-- (instancetype)initConValores:(zorve::VistaAjustes&)valores
-                        modelo:(zorve::ModeloDeAjustes&)modelo
-                        idioma:(zorve::PreferenciaDeIdioma const&)idioma {
+- (instancetype)initConValores:(zorve::VistaAjustes&)valores {
   if ((self = [super initWithFrame:NSZeroRect])) {
     _vidrio = [[VidrioDeFondo alloc] initWithFrame:NSZeroRect];
     _secciones = [[BarraDeSecciones alloc] initConValores:valores];
-    _contenido = [[ContenidoDeSeccion alloc] initConValores:valores modelo:modelo];
+    _contenido = [[ContenidoDeSeccion alloc] initConValores:valores];
     zorve::llenar(_vidrio, self);
     zorve::colgar(_secciones, self);
     zorve::colgar(_contenido, self);
     [self colocar];
     __weak VistaDeAjustes* const debil = self;
-    auto const alCambiar = [debil] { [debil pedirActualizacion]; };
-    _suscripciones = modelo.observar(alCambiar);
-    _suscripciones.push_back(idioma.idioma().observar(alCambiar));
+    _suscripciones = valores.observar([debil] { [debil pedirActualizacion]; });
   }
   return self;
 }

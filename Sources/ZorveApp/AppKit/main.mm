@@ -28,13 +28,12 @@ int main() {
     NSApplication* const aplicacion = NSApplication.sharedApplication;
     auto& todo = programa();
     static Delegado* delegado = nil;
-    delegado = [[Delegado alloc] initCon:{.panel = todo.panel,
-                                          .modelo = todo.modelo,
-                                          .ajustes = todo.ajustes,
-                                          .estado = todo.estado,
-                                          .idioma = todo.idioma,
+    delegado = [[Delegado alloc] initCon:{.panel = todo.interfaz.panel,
+                                          .ajustes = todo.interfaz.ajustes,
+                                          .estado = todo.interfaz.estado,
+                                          .idioma = todo.interfaz.idioma,
                                           .despachador = todo.despachador,
-                                          .primerArranque = todo.primerArranque}];
+                                          .primerArranque = {todo.interfaz.banderas}}];
     aplicacion.delegate = delegado;
     [aplicacion setActivationPolicy:NSApplicationActivationPolicyAccessory];
     [aplicacion run];

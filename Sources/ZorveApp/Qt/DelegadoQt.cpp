@@ -3,13 +3,13 @@
 #include <malloc.h>
 
 #include <QCoreApplication>
-#include <QQmlContext>
 #include <chrono>
 
-#include "ZorveApp/Qt/Conversiones.h"
-#include "ZorveApp/Qt/EstiloQt.h"
-#include "ZorveApp/Qt/TextosPropios.h"
-#include "ZorveApp/Qt/TiposDeLetra.h"
+#include "ZorveApp/Qt/Dibujo/TiposDeLetra.h"
+#include "ZorveApp/Qt/Puentes/Conversiones.h"
+#include "ZorveApp/Qt/Puentes/Prestamo.h"
+#include "ZorveApp/Qt/Puentes/TextosPropios.h"
+#include "ZorveApp/Qt/Ventanas/ExtensionDeGnome.h"
 
 namespace zorve {
 
@@ -29,13 +29,13 @@ void devolverMemoria() {
 
 }  // namespace
 
-DelegadoQt::DelegadoQt(ColaboradoresDelDelegado con)
+DelegadoQt::DelegadoQt(ColaboradoresDelDelegadoQt con)
     : con_{con},
-      escritorio_{escritorioEnUso()},
+      sistema_{sistemaDeVentanasEnUso()},
       item_{*this, con.estado, con.idioma, con.despachador, PrimerArranque{con.banderas}},
       barra_{{[this](ClicEnLaBarra clic) { alClic(clic); },
               [this](EntradaDelMenu::Clase cual) { item_.elegir(cual); }, [this] { item_.reabrir(); }}},
-      puente_{con.modelo, con.panel, con.idioma} {
+      puente_{con.panel, con.idioma} {
   con_.panel.acciones = {[this] { cerrarPanel(); }, [this] { item_.salir(); }};
   con_.ajustes.acciones = {[this] { ventanaDeAjustes_->hide(); }, [this] { item_.salir(); }};
   minutero_.setInterval(pasoDelReloj);
@@ -62,14 +62,15 @@ VentanaDelPanel& DelegadoQt::ventana() {
   if (ventana_) return *ventana_;
   preferirEmojiEnColor();
   ventana_ = std::make_unique<VentanaDelPanel>(
-      *escritorio_, [this](Pulsacion const& tecla) { return con_.panel.tecla(tecla); });
+      *sistema_, [this](Pulsacion const& tecla) { return con_.panel.tecla(tecla); });
   connect(ventana_.get(), &VentanaDelPanel::escondida, &minutero_, &QTimer::stop);
   // Counted from the first of several quick showings, so that they leave no more behind than one does.
   connect(ventana_.get(), &VentanaDelPanel::escondida, &reposo_, [this] {
     if (!reposo_.isActive()) reposo_.start();
   });
-  ventana_->rootContext()->setContextProperty(QStringLiteral("panel"), &puente_);
-  ventana_->rootContext()->setContextProperty(QStringLiteral("estilo"), estiloParaQml(gustos_.dePantalla()));
+  prestar(*ventana_->engine(), puente_.datos());
+  prestar(*ventana_->engine(), estilo_);
+  estilo_.vestir(gustos_.dePantalla());
   ventana_->preparar();
   return *ventana_;
 }
@@ -78,26 +79,30 @@ void DelegadoQt::avisarSiNoHayBandeja() {
   con_.activacion.agotar();
   if (barra_.puesto() || con_.banderas.bandera(banderaSinBandeja)) return;
   con_.banderas.marcar(banderaSinBandeja);
-  puente_.escribirAvisoPropio(TextosPropios::avisoSinBandeja(*con_.idioma.idioma()));
+  auto const idioma = *con_.idioma.idioma();
+  puente_.escribirAvisoPropio(sobreGnome() ? TextosPropios::avisoSinBandejaEnGnome(idioma)
+                                           : TextosPropios::avisoSinBandeja(idioma));
   connect(
       &ventana(), &VentanaDelPanel::escondida, &puente_, [this] { puente_.escribirAvisoPropio({}); },
       Qt::SingleShotConnection);
 }
 
-void DelegadoQt::escribirMenu() { barra_.ponerMenu(menuDelItem(Textos{*con_.idioma.idioma()})); }
+void DelegadoQt::escribirMenu() { barra_.ponerMenu(menuDelItem(textosDe(con_.idioma))); }
 
 void DelegadoQt::atenderGustos() {
   barra_.escribirBarraClara(gustos_.claro());
   auto const& gustos = gustos_.dePantalla();
   ventana().exigirOpaco(gustos.altoContraste);
-  ventana().rootContext()->setContextProperty(QStringLiteral("estilo"), estiloParaQml(gustos));
+  estilo_.vestir(gustos);
   ventana().escribirEscala(gustos.escala);
   if (ventanaDeAjustes_) ventanaDeAjustes_->vestir(gustos);
 }
 
-void DelegadoQt::reabrir(Testigo testigo) {
+void DelegadoQt::reabrir(Testigo testigo, ServicioDeSesion::Quien quien) {
+  sinTeclado_ = testigo.vacio() && quien == ServicioDeSesion::Quien::cualquiera;
   con_.activacion.recibir(std::move(testigo));
   item_.reabrir();
+  sinTeclado_ = false;
 }
 
 void DelegadoQt::alClic(ClicEnLaBarra clic) {
@@ -108,7 +113,9 @@ void DelegadoQt::alClic(ClicEnLaBarra clic) {
 bool DelegadoQt::panelVisible() const { return ventana_ && ventana_->isVisible(); }
 
 void DelegadoQt::mostrarPanel() {
-  ventana().mostrarEn(barra_.ancla());
+  bool const aparece = !panelVisible();
+  ventana().mostrarEn(barra_.ancla(), !sinTeclado_);
+  if (aparece) Q_EMIT puente_.datos().aparecio();
   con_.activacion.agotar();
   puente_.actualizarTiempos();
   minutero_.start();
@@ -126,8 +133,7 @@ void DelegadoQt::mostrarMenu(std::array<EntradaDelMenu, 3> const& entradas) {
 
 void DelegadoQt::mostrarAjustes() {
   if (!ventanaDeAjustes_) {
-    ventanaDeAjustes_ =
-        std::make_unique<VentanaDeAjustes>(con_.ajustes, con_.modeloDeAjustes, con_.idioma, con_.activacion);
+    ventanaDeAjustes_ = std::make_unique<VentanaDeAjustes>(con_.ajustes, con_.idioma, con_.activacion);
     ventanaDeAjustes_->vestir(gustos_.dePantalla());
   }
   ventanaDeAjustes_->mostrar();

@@ -5,25 +5,24 @@
 #include <memory>
 
 #include "ZorveApp/ItemDeEstado.h"
-#include "ZorveApp/ModeloDeVista.h"
 #include "ZorveApp/PanelView.h"
-#include "ZorveApp/Qt/Activacion.h"
-#include "ZorveApp/Qt/ElementoDeBarra.h"
-#include "ZorveApp/Qt/Escritorio.h"
-#include "ZorveApp/Qt/GustosDelEscritorio.h"
-#include "ZorveApp/Qt/PuenteDelPanel.h"
-#include "ZorveApp/Qt/VentanaDeAjustes.h"
-#include "ZorveApp/Qt/VentanaDelPanel.h"
+#include "ZorveApp/Qt/Activacion/Activacion.h"
+#include "ZorveApp/Qt/Activacion/ServicioDeSesion.h"
+#include "ZorveApp/Qt/Bandeja/ElementoDeBarra.h"
+#include "ZorveApp/Qt/Dibujo/EstiloQt.h"
+#include "ZorveApp/Qt/Puentes/PuenteDelPanel.h"
+#include "ZorveApp/Qt/Ventanas/GustosDelEscritorio.h"
+#include "ZorveApp/Qt/Ventanas/SistemaDeVentanas.h"
+#include "ZorveApp/Qt/Ventanas/VentanaDeAjustes.h"
+#include "ZorveApp/Qt/Ventanas/VentanaDelPanel.h"
 
 namespace zorve {
 
 /// What the delegate works with; everything outlives it.
-struct ColaboradoresDelDelegado {
-  ModeloDeVista& modelo;
+struct ColaboradoresDelDelegadoQt {
   PanelView& panel;
   EstadoDelPanel& estado;
   VistaAjustes& ajustes;
-  ModeloDeAjustes& modeloDeAjustes;
   PreferenciaDeIdioma const& idioma;
   Despachador& despachador;
   AlmacenDeBanderas& banderas;
@@ -36,12 +35,12 @@ class DelegadoQt final : public QObject, public CaraDelItem {
   Q_OBJECT
 
  public:
-  explicit DelegadoQt(ColaboradoresDelDelegado con);
+  explicit DelegadoQt(ColaboradoresDelDelegadoQt con);
 
   /// Puts the icon up, then prepares the panel when the event loop has nothing else to do.
   void arrancar();
   /// The program was started again, or asked for over the bus, by `testigo`.
-  void reabrir(Testigo testigo);
+  void reabrir(Testigo testigo, ServicioDeSesion::Quien quien);
 
   [[nodiscard]] bool panelVisible() const override;
   void mostrarPanel() override;
@@ -58,12 +57,15 @@ class DelegadoQt final : public QObject, public CaraDelItem {
   void escribirMenu();
   void atenderGustos();
 
-  ColaboradoresDelDelegado con_;
-  std::unique_ptr<Escritorio> escritorio_;
+  ColaboradoresDelDelegadoQt con_;
+  std::unique_ptr<SistemaDeVentanas> sistema_;
   GustosDelEscritorio gustos_;
   ItemDeEstado item_;
+  /// The panel is shown for somebody whom nobody gave a leave: the keyboard stays where it is.
+  bool sinTeclado_ = false;
   ElementoDeBarra barra_;
   PuenteDelPanel puente_;
+  EstiloQt estilo_{nullptr};
   std::unique_ptr<VentanaDelPanel> ventana_;
   std::unique_ptr<VentanaDeAjustes> ventanaDeAjustes_;
   QTimer minutero_;

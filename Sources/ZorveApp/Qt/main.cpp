@@ -8,27 +8,25 @@
 #include <optional>
 #include <string>
 
+#include "ZorveApp/Interfaz.h"
+#include "ZorveApp/Qt/Activacion/EjecutorConTestigo.h"
+#include "ZorveApp/Qt/Activacion/ServicioDeSesion.h"
 #include "ZorveApp/Qt/DelegadoQt.h"
-#include "ZorveApp/Qt/DespachadorQt.h"
-#include "ZorveApp/Qt/EjecutorConTestigo.h"
-#include "ZorveApp/Qt/EstiloQt.h"
-#include "ZorveApp/Qt/PortapapelesQt.h"
-#include "ZorveApp/Qt/ServicioDeSesion.h"
-#include "ZorveApp/Qt/TeclasQt.h"
-#include "ZorveCore/SessionIndex.h"
-#include "ZorveCore/TerminalTmux.h"
-#include "ZorveCore/TerminalesDeLinux.h"
-#include "ZorvePlatform/Linux/AplicacionesLinux.h"
+#include "ZorveApp/Qt/Puentes/DespachadorQt.h"
+#include "ZorveApp/Qt/Puentes/PortapapelesQt.h"
+#include "ZorveApp/Qt/Puentes/TeclasQt.h"
+#include "ZorveApp/Qt/Puentes/TiposDeQml.h"
+#include "ZorveApp/Qt/Ventanas/ExtensionDeGnome.h"
+#include "ZorveApp/Qt/Ventanas/InterruptorDeGnome.h"
 #include "ZorvePlatform/Linux/InicioDeSesionLinux.h"
-#include "ZorvePlatform/Linux/ManejadorLinux.h"
-#include "ZorvePlatform/Linux/PreferenciasLinux.h"
-#include "ZorvePlatform/Linux/SesionGraficaLinux.h"
+#include "ZorvePlatform/Linux/RutaDelAyudante.h"
 #include "ZorvePlatform/Posix/ArchivosPosix.h"
 #include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
 #include "ZorvePlatform/Posix/Hogar.h"
 #include "ZorvePlatform/Posix/Local.h"
-#include "ZorvePlatform/Posix/SenalesDeHijos.h"
+#include "ZorvePlatform/Posix/ProcesoHijo.h"
 #include "ZorvePlatform/Posix/VidaDeProcesosPosix.h"
+#include "ZorvePlatform/ServiciosDeTerminal.h"
 
 namespace {
 
@@ -39,14 +37,6 @@ constexpr std::chrono::milliseconds esperaDelTestigo{300};
 
 std::string esteEjecutable() { return std::filesystem::read_symlink("/proc/self/exe").string(); }
 
-/// Beside the program, or under ../libexec.
-std::string rutaDelAyudante(std::string const& ejecutable) {
-  auto const carpeta = std::filesystem::path{ejecutable}.parent_path();
-  auto const junto = carpeta / "zorve-terminal";
-  if (std::filesystem::exists(junto)) return junto.string();
-  return (carpeta.parent_path() / "libexec/zorve/zorve-terminal").string();
-}
-
 std::optional<std::string> version(std::string const& ejecutable) {
   auto const datos = std::filesystem::path{ejecutable}.parent_path().parent_path() / "share/applications";
   if (!std::filesystem::exists(datos / "com.sarnol.zorve.desktop")) return std::nullopt;
@@ -56,69 +46,52 @@ std::optional<std::string> version(std::string const& ejecutable) {
 /// What the program runs with, the real thing behind every seam. Background tasks may outlive the event loop,
 /// so it is made once and never destroyed.
 struct Mundo {
-  Mundo(std::string de, std::vector<std::string> variables)
-      : home{std::move(de)},
-        entorno{EntornoLinux::delProceso(home)},
-        ejecutable{esteEjecutable()},
-        ejecutor{std::move(variables), rutaDelAyudante(ejecutable),
+  Mundo(std::string const& de, std::vector<std::string> variables)
+      : home{de},
+        servicios{serviciosDeTerminal(home)},
+        ejecutor{std::move(variables), rutaDelAyudante(),
                  [this] { return pedirDesdeOtroHilo(*activacion, esperaDelTestigo).variables(); }} {}
 
   std::string home;
-  EntornoLinux entorno;
-  std::string ejecutable;
+  std::string ejecutable = esteEjecutable();
   ArchivosPosix archivos;
   VidaDeProcesosPosix procesos;
   std::unique_ptr<Activacion> activacion = activacionEnUso();
+  ServiciosDeTerminal servicios;
   EjecutorConTestigo ejecutor;
   PortapapelesQt portapapeles;
   DespachadorQt despachador;
-  AplicacionesLinux aplicaciones{entorno};
-  ManejadorLinux manejador{LugaresDelManejador::delProceso(entorno)};
-  PreferenciasLinux preferencias{PreferenciasLinux::archivoPorDefecto(entorno)};
-  InicioDeSesionLinux inicio{entorno, ejecutable};
-  BanderasDeUsuario banderas{preferencias};
-  PreferenciaDeIdioma idioma{preferencias};
-  CatalogoDeTerminales catalogo = catalogoDelSistema(
-      terminalesDeLinux(aplicaciones, rutaDelAyudante(ejecutable), sesionGraficaDelProceso()), manejador,
-      preferencias);
+  InicioDeSesionLinux inicio{EntornoLinux::delProceso(home), ejecutable};
 
-  [[nodiscard]] IndexResult cargar() {
-    return SessionIndex::construir(archivos, procesos, SessionIndex::ubicacionesPorDefecto(home));
+  [[nodiscard]] Cimientos cimientos() {
+    return {.home = home,
+            .archivos = archivos,
+            .procesos = procesos,
+            .servicios = servicios.apertura,
+            .preferencias = *servicios.preferencias,
+            .ejecutor = ejecutor,
+            .portapapeles = portapapeles,
+            .inicio = inicio,
+            .despachador = despachador,
+            .regla = reglaDelEntorno(),
+            .principal = modificadorPrincipal,
+            .version = version(ejecutable)};
   }
 };
 
-/// The program's models and views over that world.
+/// The program's face over that world.
 struct Programa {
-  explicit Programa(Mundo& de) : mundo{de} {}
+  explicit Programa(Mundo& de) : mundo{de} {
+    if (!sobreGnome()) return;
+    interruptor = std::make_unique<InterruptorDeGnome>();
+    interfaz.ajustes.ponerInterruptor(*interruptor);
+  }
 
   Mundo& mundo;
-  EstadoDelPanel estado{};
-  ModeloDeVista modelo{{.cargar = [de = &mundo] { return de->cargar(); },
-                        .catalogo = mundo.catalogo,
-                        .ejecutor = mundo.ejecutor,
-                        .portapapeles = mundo.portapapeles,
-                        .despachador = mundo.despachador,
-                        .idioma = mundo.idioma,
-                        .regla = reglaDelEntorno(),
-                        .anfitrionas = anfitrionasDeLinux(rutaDelAyudante(mundo.ejecutable))}};
-  PanelView panel{modelo,
-                  estado,
-                  mundo.idioma,
-                  mundo.home,
-                  [] { return Fecha{std::chrono::system_clock::now()}; },
-                  modificadorPrincipal};
-  ModeloDeAjustes modeloDeAjustes{{.catalogo = mundo.catalogo,
-                                   .preferencias = mundo.preferencias,
-                                   .inicio = mundo.inicio,
-                                   .idioma = mundo.idioma,
-                                   .despachador = mundo.despachador,
-                                   .version = version(mundo.ejecutable),
-                                   .dichoPor = [de = &mundo] {
-                                     return de->manejador.dichoPor(CatalogoDeTerminales::tipoDeGuionDeShell);
-                                   }}};
-  VistaAjustes ajustes{modeloDeAjustes, mundo.idioma, modificadorPrincipal};
-  DelegadoQt delegado{{modelo, panel, estado, ajustes, modeloDeAjustes, mundo.idioma, mundo.despachador,
-                       mundo.banderas, *mundo.activacion}};
+  std::unique_ptr<InterruptorDeGnome> interruptor;
+  Interfaz interfaz{mundo.cimientos()};
+  DelegadoQt delegado{{interfaz.panel, interfaz.estado, interfaz.ajustes, interfaz.idioma, mundo.despachador,
+                       interfaz.banderas, *mundo.activacion}};
 };
 
 /// Every load has a thread of its own: without bounds each would leave an arena of the allocator behind.
@@ -142,7 +115,9 @@ void nombrar() {
 /// `testigo`: the leave that the program was started with; `entorno`: what its children get.
 int correr(Testigo const& testigo, std::vector<std::string> entorno) {
   Programa* programa = nullptr;
-  ServicioDeSesion servicio{[&](Testigo llamada) { programa->delegado.reabrir(std::move(llamada)); }};
+  ServicioDeSesion servicio{[&](Testigo llamada, ServicioDeSesion::Quien quien) {
+    programa->delegado.reabrir(std::move(llamada), quien);
+  }};
   auto const turno = servicio.ocupar(testigo);
   if (turno == ServicioDeSesion::Turno::segundo) return 0;
   if (turno == ServicioDeSesion::Turno::mudo) {
@@ -151,12 +126,20 @@ int correr(Testigo const& testigo, std::vector<std::string> entorno) {
         stderr);
     return 1;
   }
+  if (turno == ServicioDeSesion::Turno::ajeno) {
+    std::fputs(
+        "zorve: another program has the name com.sarnol.zorve on the session bus, and was told nothing; end "
+        "it "
+        "and start again\n",
+        stderr);
+    return 1;
+  }
   auto const home = hogarDelUsuario();
   if (!home) {
     std::fprintf(stderr, "zorve: %s\n", home.error().c_str());
     return 1;
   }
-  registrarDibujos();
+  registrarTipos();
   Programa este{*new Mundo{*home, std::move(entorno)}};
   programa = &este;
   este.mundo.activacion->recibir(testigo);

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ZorveCore/Texto.h"
+#include "ZorveCore/Texto/Texto.h"
 
 namespace zorve {
 

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <utility>
 
-#include "ZorveCore/Archivos.h"
+#include "ZorveCore/Lectura/Archivos.h"
 #include "ZorvePlatform/Linux/EntradaDeEscritorio.h"
 #include "ZorvePlatform/Linux/ManejadorLinux.h"
 #include "ZorvePlatform/Posix/LeerArchivo.h"

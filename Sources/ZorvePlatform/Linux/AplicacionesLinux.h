@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "ZorveCore/AplicacionesInstaladas.h"
-#include "ZorveCore/FichaDeTerminal.h"
+#include "ZorveCore/Terminales/AplicacionesInstaladas.h"
+#include "ZorveCore/Terminales/FichaDeTerminal.h"
 #include "ZorvePlatform/Linux/EntornoLinux.h"
 
 namespace zorve {

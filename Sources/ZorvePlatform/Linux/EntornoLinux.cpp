@@ -8,7 +8,7 @@
 #include <string_view>
 #include <utility>
 
-#include "ZorveCore/Archivos.h"
+#include "ZorveCore/Lectura/Archivos.h"
 #include "ZorvePlatform/Posix/Variable.h"
 
 namespace zorve {
@@ -33,13 +33,13 @@ std::vector<std::string> absolutasO(std::string const& lista, std::string_view o
   return absolutas(lista.empty() ? otras : std::string_view{lista});
 }
 
+}  // namespace
+
 bool esEjecutable(std::string const& ruta) {
   struct stat estado{};
-  return ::stat(ruta.c_str(), &estado) == 0 && S_ISREG(estado.st_mode) &&
-         ::faccessat(AT_FDCWD, ruta.c_str(), X_OK, AT_EACCESS) == 0;
+  return ruta.starts_with('/') && !ruta.contains('\0') && ::stat(ruta.c_str(), &estado) == 0 &&
+         S_ISREG(estado.st_mode) && ::faccessat(AT_FDCWD, ruta.c_str(), X_OK, AT_EACCESS) == 0;
 }
-
-}  // namespace
 
 EntornoLinux EntornoLinux::delProceso(std::string const& home) {
   EntornoLinux entorno;
@@ -55,7 +55,7 @@ EntornoLinux EntornoLinux::delProceso(std::string const& home) {
 }
 
 std::string ejecutableEn(EntornoLinux const& entorno, std::string const& nombre) {
-  if (nombre.empty() || nombre.contains('\0')) return {};
+  if (nombre.empty()) return {};
   if (nombre.starts_with('/')) return esEjecutable(nombre) ? nombre : std::string{};
   if (nombre.contains('/')) return {};
   for (auto const& carpeta : entorno.path) {

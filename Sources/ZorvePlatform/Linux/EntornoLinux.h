@@ -23,6 +23,9 @@ struct EntornoLinux {
   [[nodiscard]] static EntornoLinux delProceso(std::string const& home);
 };
 
+/// Whether `ruta` is the absolute path of a regular file that this user may run.
+[[nodiscard]] bool esEjecutable(std::string const& ruta);
+
 /// The path of the executable regular file `nombre` (absolute, or a bare name looked for in
 /// `entorno.path`); empty when there is none.
 [[nodiscard]] std::string ejecutableEn(EntornoLinux const& entorno, std::string const& nombre);

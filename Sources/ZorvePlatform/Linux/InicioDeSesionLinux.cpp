@@ -1,12 +1,14 @@
 #include "ZorvePlatform/Linux/InicioDeSesionLinux.h"
 
+#include <sys/stat.h>
+
 #include <cerrno>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
-#include "ZorveCore/Texto.h"
+#include "ZorveCore/Texto/Texto.h"
 #include "ZorvePlatform/Posix/LeerArchivo.h"
 #include "ZorvePlatform/Posix/ReemplazarArchivo.h"
 
@@ -26,6 +28,18 @@ bool tieneLinea(std::string_view texto, std::string_view linea) {
     if (sacarLinea(texto) == linea) return true;
   }
   return false;
+}
+
+/// Those that are missing, closed to others (XDG Base Directory Specification); 0, or an errno value.
+int hacerCarpetas(std::filesystem::path const& carpeta) {
+  std::error_code fallo;
+  if (std::filesystem::is_directory(carpeta, fallo)) return 0;
+  if (int const codigo = carpeta.has_relative_path() ? hacerCarpetas(carpeta.parent_path()) : 0;
+      codigo != 0) {
+    return codigo;
+  }
+  if (::mkdir(carpeta.c_str(), S_IRWXU) == 0) return 0;
+  return errno == EEXIST ? ENOTDIR : errno;
 }
 
 }  // namespace
@@ -52,10 +66,10 @@ bool InicioDeSesionLinux::activo() const {
 }
 
 std::expected<void, std::string> InicioDeSesionLinux::registrar() {
-  std::error_code fallo;
   auto const carpeta = std::filesystem::path{entrada_}.parent_path();
-  std::filesystem::create_directories(carpeta, fallo);
-  if (fallo) return std::unexpected{carpeta.string() + ": " + fallo.message()};
+  if (int const codigo = hacerCarpetas(carpeta); codigo != 0) {
+    return std::unexpected{carpeta.string() + ": " + FalloDelSistema::deErrno(codigo).descripcion};
+  }
   auto const escrito = reemplazarArchivo(entrada_, contenido(ejecutable_));
   if (!escrito) return std::unexpected{entrada_ + ": " + escrito.error().descripcion};
   return {};

@@ -7,11 +7,11 @@
 #include <utility>
 #include <vector>
 
-#include "ZorveCore/Archivos.h"
-#include "ZorveCore/CatalogoDeTerminales.h"
-#include "ZorveCore/FichaDeTerminal.h"
-#include "ZorveCore/TerminalDeLinux.h"
-#include "ZorveCore/Texto.h"
+#include "ZorveCore/Lectura/Archivos.h"
+#include "ZorveCore/Terminales/CatalogoDeTerminales.h"
+#include "ZorveCore/Terminales/FichaDeTerminal.h"
+#include "ZorveCore/Terminales/TerminalDeLinux.h"
+#include "ZorveCore/Texto/Texto.h"
 #include "ZorvePlatform/Linux/AjusteDeKde.h"
 #include "ZorvePlatform/Linux/AplicacionesLinux.h"
 #include "ZorvePlatform/Linux/ProgramaAcotado.h"
@@ -49,12 +49,12 @@ std::optional<std::string> correr(LugaresDelManejador const& lugares, std::strin
   return ruta.empty() ? std::nullopt : salidaDe(ruta, args, lugares.plazo);
 }
 
-std::optional<std::string> segunXdgTerminalExec(LugaresDelManejador const& lugares) {
+std::optional<std::string> laDeXdgTerminalExec(LugaresDelManejador const& lugares) {
   auto const salida = correr(lugares, "xdg-terminal-exec", {"--print-id"});
   return salida ? terminalDeLaEntrada(recortarAscii(*salida)) : std::nullopt;
 }
 
-std::optional<std::string> segunKdeglobals(LugaresDelManejador const& lugares) {
+std::optional<std::string> laDeKdeglobals(LugaresDelManejador const& lugares) {
   auto carpetas = lugares.entorno.configDirs;
   carpetas.insert(carpetas.begin(), lugares.entorno.configHome);
   std::vector<std::string> textos;
@@ -76,7 +76,7 @@ std::string esquemaDe(std::string const& escritorio) {
   return "org.gnome.desktop.default-applications.terminal";
 }
 
-std::optional<std::string> segunGsettings(LugaresDelManejador const& lugares) {
+std::optional<std::string> laDeGsettings(LugaresDelManejador const& lugares) {
   auto const salida = correr(lugares, "gsettings", {"get", esquemaDe(lugares.escritorio), "exec"});
   if (!salida) return std::nullopt;
   auto valor = recortarAscii(*salida);
@@ -87,7 +87,7 @@ std::optional<std::string> segunGsettings(LugaresDelManejador const& lugares) {
   return terminalDeLaOrden(valor.substr(1, valor.size() - 2));
 }
 
-std::optional<std::string> segunEnlace(LugaresDelManejador const& lugares) {
+std::optional<std::string> laDelEnlace(LugaresDelManejador const& lugares) {
   std::error_code error;
   auto const destino = std::filesystem::read_symlink(lugares.enlace, error);
   if (error) return std::nullopt;
@@ -113,38 +113,17 @@ ManejadorLinux::ManejadorLinux(LugaresDelManejador lugares) : lugares_{std::move
 ManejadorLinux::ManejadorLinux(std::string enlace)
     : ManejadorLinux{LugaresDelManejador{.enlace = std::move(enlace)}} {}
 
-void ManejadorLinux::mirar() const {
+RespuestaDelSistema ManejadorLinux::preguntar(std::string_view tipo) const {
+  if (tipo != CatalogoDeTerminales::tipoDeGuionDeShell) return {};
   auto hallada = buscar();
-  std::lock_guard const turno{candado_};
-  mirada_ = true;
-  hallada_ = std::move(hallada);
-}
-
-std::optional<TerminalDelSistema> ManejadorLinux::ultima() const {
-  {
-    std::lock_guard const turno{candado_};
-    if (mirada_) return hallada_;
-  }
-  mirar();
-  std::lock_guard const turno{candado_};
-  return hallada_;
-}
-
-std::optional<std::string> ManejadorLinux::aplicacionPara(std::string_view tipo) const {
-  if (tipo != CatalogoDeTerminales::tipoDeGuionDeShell) return std::nullopt;
-  auto hallada = ultima();
-  return hallada ? std::optional{std::move(hallada->identificador)} : std::nullopt;
-}
-
-std::optional<std::string> ManejadorLinux::dichoPor(std::string_view tipo) const {
-  if (tipo != CatalogoDeTerminales::tipoDeGuionDeShell) return std::nullopt;
-  auto const hallada = ultima();
-  return hallada ? std::optional{std::string{nombreDe(hallada->fuente)}} : std::nullopt;
+  if (!hallada) return {};
+  return {.aplicacion = std::move(hallada->identificador),
+          .dichoPor = std::string{nombreDe(hallada->fuente)}};
 }
 
 std::optional<TerminalDelSistema> ManejadorLinux::buscar() const {
   for (auto const fuente : todasLasFuentes) {
-    auto identificador = segun(fuente);
+    auto identificador = dichaPor(fuente);
     if (!identificador) continue;
     if (fuente == FuenteDelManejador::enlace || hay(lugares_.entorno, *identificador)) {
       return TerminalDelSistema{std::move(*identificador), fuente};
@@ -153,18 +132,18 @@ std::optional<TerminalDelSistema> ManejadorLinux::buscar() const {
   return std::nullopt;
 }
 
-std::optional<std::string> ManejadorLinux::segun(FuenteDelManejador fuente) const {
+std::optional<std::string> ManejadorLinux::dichaPor(FuenteDelManejador fuente) const {
   switch (fuente) {
     case FuenteDelManejador::xdgTerminalExec:
-      return segunXdgTerminalExec(lugares_);
+      return laDeXdgTerminalExec(lugares_);
     case FuenteDelManejador::kdeglobals:
-      return segunKdeglobals(lugares_);
+      return laDeKdeglobals(lugares_);
     case FuenteDelManejador::gsettings:
-      return segunGsettings(lugares_);
+      return laDeGsettings(lugares_);
     case FuenteDelManejador::terminal:
       return terminalDeLaOrden(lugares_.terminal);
     case FuenteDelManejador::enlace:
-      return segunEnlace(lugares_);
+      return laDelEnlace(lugares_);
   }
   return std::nullopt;
 }

@@ -2,12 +2,11 @@
 
 #include <chrono>
 #include <cstdint>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
 
-#include "ZorveCore/ManejadorDelSistema.h"
+#include "ZorveCore/Terminales/ManejadorDelSistema.h"
 #include "ZorvePlatform/Linux/EntornoLinux.h"
 
 namespace zorve {
@@ -43,8 +42,7 @@ struct LugaresDelManejador {
 /// The system's terminal: what xdg-terminal-exec prints, KDE's kdeglobals, the GNOME-like setting, $TERMINAL,
 /// the alternatives link. An answer that is no known terminal counts as none, and so does one that is not
 /// installed, but for the link's, which is the last.
-/// Looking runs programs, each bounded; the answers are those of the last look, and of a first one where
-/// there was none yet.
+/// Each question runs programs, each bounded.
 class ManejadorLinux final : public ManejadorDelSistema {
  public:
   /// All of this process's places, with $HOME as the home.
@@ -54,20 +52,14 @@ class ManejadorLinux final : public ManejadorDelSistema {
   explicit ManejadorLinux(std::string enlace);
 
   /// Any `tipo` but the one of shell scripts has no handler.
-  void mirar() const override;
-  [[nodiscard]] std::optional<std::string> aplicacionPara(std::string_view tipo) const override;
-  [[nodiscard]] std::optional<std::string> dichoPor(std::string_view tipo) const override;
-  /// Looks, without a word to the other operations.
+  [[nodiscard]] RespuestaDelSistema preguntar(std::string_view tipo) const override;
+  /// The terminal of shell scripts, and its source.
   [[nodiscard]] std::optional<TerminalDelSistema> buscar() const;
 
  private:
-  [[nodiscard]] std::optional<TerminalDelSistema> ultima() const;
-  [[nodiscard]] std::optional<std::string> segun(FuenteDelManejador fuente) const;
+  [[nodiscard]] std::optional<std::string> dichaPor(FuenteDelManejador fuente) const;
 
   LugaresDelManejador lugares_;
-  mutable std::mutex candado_;
-  mutable bool mirada_ = false;
-  mutable std::optional<TerminalDelSistema> hallada_;
 };
 
 /// How a person knows the source ("xdg-terminal-exec", "kdeglobals", "gsettings", "$TERMINAL",

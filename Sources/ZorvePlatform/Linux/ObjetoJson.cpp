@@ -1,14 +1,16 @@
 #include "ZorvePlatform/Linux/ObjetoJson.h"
 
 #include <rapidjson/memorystream.h>
-#include <rapidjson/prettywriter.h>
 #include <rapidjson/reader.h>
 #include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
 
 #include <cstdint>
 #include <utility>
+#include <vector>
 
-#include "ZorveCore/Texto.h"
+#include "ZorveCore/Lectura/NumerosGrandes.h"
+#include "ZorveCore/Texto/Texto.h"
 
 namespace zorve {
 
@@ -80,13 +82,19 @@ class Buscador : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Buscador
   bool toca_ = false;
 };
 
-using Escritor = rapidjson::PrettyWriter<rapidjson::StringBuffer>;
+using Escritor = rapidjson::Writer<rapidjson::StringBuffer>;
 
 /// Copies a document with one top-level key replaced or left out.
 class Copista {
  public:
-  Copista(Escritor& escritor, std::string_view clave, std::optional<Preferencias::Valor> const& valor)
-      : escritor_{escritor}, clave_{clave}, valor_{valor}, pendiente_{valor.has_value()} {}
+  /// `numeros`: what stands for each number of the document, in their order.
+  Copista(Escritor& escritor, std::string_view clave, std::optional<Preferencias::Valor> const& valor,
+          std::vector<std::string_view> const& numeros)
+      : escritor_{escritor},
+        clave_{clave},
+        valor_{valor},
+        numero_{numeros.begin()},
+        pendiente_{valor.has_value()} {}
 
   bool Null() { return omitir_ || escritor_.Null(); }
   bool Bool(bool b) { return omitir_ || escritor_.Bool(b); }
@@ -95,8 +103,9 @@ class Copista {
   bool Int64(std::int64_t n) { return omitir_ || escritor_.Int64(n); }
   bool Uint64(std::uint64_t n) { return omitir_ || escritor_.Uint64(n); }
   bool Double(double d) { return omitir_ || escritor_.Double(d); }
-  bool RawNumber(char const* texto, SizeType largo, bool /*copia*/) {
-    return omitir_ || escritor_.RawValue(texto, largo, rapidjson::kNumberType);
+  bool RawNumber(char const* /*texto*/, SizeType /*largo*/, bool /*copia*/) {
+    auto const numero = *numero_++;
+    return omitir_ || escritor_.RawValue(numero.data(), numero.size(), rapidjson::kNumberType);
   }
   bool String(char const* texto, SizeType largo, bool /*copia*/) {
     return omitir_ || escritor_.String(texto, largo);
@@ -144,6 +153,7 @@ class Copista {
   Escritor& escritor_;
   std::string_view clave_;
   std::optional<Preferencias::Valor> const& valor_;
+  std::vector<std::string_view>::const_iterator numero_;
   Posicion posicion_;
   bool pendiente_;
   bool omitir_ = false;
@@ -156,27 +166,83 @@ bool leerCon(std::string_view texto, Receptor& receptor) {
   return !lector.Parse<reglas>(flujo, receptor).IsError();
 }
 
+/// A document whose numbers, which may be of any size, stand apart.
+struct Documento {
+  std::string texto;
+  std::vector<std::string_view> numeros;
+
+  explicit Documento(std::string_view original) : numeros{apartarNumeros(original, texto)} {}
+};
+
+/// Lays out JSON that is written on one line.
+class Disposicion {
+ public:
+  explicit Disposicion(std::string_view compacto) : compacto_{compacto} {}
+
+  [[nodiscard]] std::string disponer() {
+    for (; i_ < compacto_.size(); ++i_) poner(compacto_[i_]);
+    return std::move(salida_);
+  }
+
+ private:
+  static constexpr std::size_t hondura = 16;
+
+  void poner(char c) {
+    if (c == '"') return ponerTexto();
+    if (c == '{' || c == '[') return abrir(c);
+    if (c == '}' || c == ']') --nivel_;
+    if ((c == '}' || c == ']') && nivel_ < hondura) renglon();
+    salida_ += c;
+    if (c == ',' && nivel_ <= hondura) renglon();
+    if (c == ':' && nivel_ <= hondura) salida_ += ' ';
+  }
+  void ponerTexto() {
+    auto fin = compacto_.find_first_of("\"\\", i_ + 1);
+    while (compacto_[fin] == '\\') fin = compacto_.find_first_of("\"\\", fin + 2);
+    salida_ += compacto_.substr(i_, fin + 1 - i_);
+    i_ = fin;
+  }
+  void abrir(char c) {
+    salida_ += c;
+    auto const siguiente = compacto_[i_ + 1];
+    if (siguiente == '}' || siguiente == ']') {
+      salida_ += siguiente;
+      ++i_;
+    } else if (++nivel_ <= hondura) {
+      renglon();
+    }
+  }
+  void renglon() { salida_.append(1, '\n').append(2 * nivel_, ' '); }
+
+  std::string_view compacto_;
+  std::string salida_;
+  std::size_t i_ = 0;
+  std::size_t nivel_ = 0;
+};
+
 }  // namespace
 
 bool esObjetoJson(std::string_view texto) {
   Comprobador comprobador;
-  return !texto.contains('\0') && leerCon(texto, comprobador);
+  return !texto.contains('\0') && leerCon(Documento{texto}.texto, comprobador);
 }
 
 std::optional<Preferencias::Valor> valorEnObjetoJson(std::string_view texto, std::string_view clave) {
   Buscador buscador{clave};
-  leerCon(texto, buscador);
+  leerCon(Documento{texto}.texto, buscador);
   return buscador.valor;
 }
 
 std::string conValorEnObjetoJson(std::string_view texto, std::string_view clave,
-                                 std::optional<Preferencias::Valor> const& valor) {
+                                 std::optional<Preferencias::Valor> const& valor, std::size_t tope) {
   rapidjson::StringBuffer bufer;
   Escritor escritor{bufer};
-  escritor.SetIndent(' ', 2);
-  Copista copista{escritor, clave, valor};
-  leerCon(texto, copista);
-  return std::string{bufer.GetString(), bufer.GetSize()} + "\n";
+  Documento const documento{texto};
+  Copista copista{escritor, clave, valor, documento.numeros};
+  leerCon(documento.texto, copista);
+  std::string_view const compacto{bufer.GetString(), bufer.GetSize()};
+  auto dispuesto = Disposicion{compacto}.disponer() + "\n";
+  return dispuesto.size() <= tope ? dispuesto : std::string{compacto} + "\n";
 }
 
 }  // namespace zorve

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,8 +18,10 @@ namespace zorve {
                                                                    std::string_view clave);
 
 /// The object `texto` with `valor` under `clave`, or without `clave` when there is no value. Everything else
-/// is kept, numbers digit for digit.
+/// is kept, numbers digit for digit. Laid out with two blanks a level down to a fixed depth, so that no text
+/// grows much; on one line where even that would pass `tope` bytes.
 [[nodiscard]] std::string conValorEnObjetoJson(std::string_view texto, std::string_view clave,
-                                               std::optional<Preferencias::Valor> const& valor);
+                                               std::optional<Preferencias::Valor> const& valor,
+                                               std::size_t tope);
 
 }  // namespace zorve

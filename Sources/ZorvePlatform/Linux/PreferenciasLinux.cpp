@@ -6,10 +6,11 @@
 #include <fcntl.h>
 #include <cerrno>
 #include <filesystem>
+#include <thread>
 #include <utility>
 
-#include "ZorveCore/Archivos.h"
-#include "ZorveCore/Texto.h"
+#include "ZorveCore/Lectura/Archivos.h"
+#include "ZorveCore/Texto/Texto.h"
 #include "ZorvePlatform/Linux/ObjetoJson.h"
 #include "ZorvePlatform/Posix/Descriptor.h"
 #include "ZorvePlatform/Posix/LeerArchivo.h"
@@ -50,11 +51,28 @@ std::expected<std::string, IndexError> textoDe(std::string const& archivo) {
   return *std::move(texto);
 }
 
-std::expected<Descriptor, FalloDelSistema> tomarCerrojo(std::string const& ruta) {
+std::unexpected<IndexError> noCabe(std::string const& ruta) {
+  return fallo("Zorve could not save its settings in " + ruta + ": the file would be longer than " +
+               std::to_string(tope) + " bytes. Take out of it what is not Zorve's, then try again.");
+}
+
+std::unexpected<IndexError> estaTomado(std::string const& ruta, std::string const& cerrojo) {
+  return fallo("Zorve could not save its settings in " + ruta + ": another program holds the lock " +
+               cerrojo + ". Close it, then try again.");
+}
+
+/// Fails with EWOULDBLOCK when somebody else has the lock for all of `plazo`.
+std::expected<Descriptor, FalloDelSistema> tomarCerrojo(std::string const& ruta,
+                                                        std::chrono::milliseconds plazo) {
+  constexpr std::chrono::milliseconds pausa{20};
   Descriptor cerrojo{::open(ruta.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600)};
   if (!cerrojo) return std::unexpected{FalloDelSistema::deErrno(errno)};
-  while (::flock(cerrojo.numero(), LOCK_EX) != 0) {
-    if (errno != EINTR) return std::unexpected{FalloDelSistema::deErrno(errno)};
+  auto const limite = std::chrono::steady_clock::now() + plazo;
+  while (::flock(cerrojo.numero(), LOCK_EX | LOCK_NB) != 0) {
+    auto const codigo = errno;
+    bool const tomado = codigo == EWOULDBLOCK && std::chrono::steady_clock::now() < limite;
+    if (codigo != EINTR && !tomado) return std::unexpected{FalloDelSistema::deErrno(codigo)};
+    if (tomado) std::this_thread::sleep_for(pausa);
   }
   return cerrojo;
 }
@@ -70,7 +88,8 @@ std::expected<void, FalloDelSistema> crearCarpeta(std::string const& carpeta) {
 
 }  // namespace
 
-PreferenciasLinux::PreferenciasLinux(std::string archivo) : archivo_{std::move(archivo)} {}
+PreferenciasLinux::PreferenciasLinux(std::string archivo, std::chrono::milliseconds plazo)
+    : archivo_{std::move(archivo)}, plazo_{plazo} {}
 
 std::string PreferenciasLinux::archivoPorDefecto(EntornoLinux const& entorno) {
   return unirRuta(entorno.configHome, "com.sarnol.zorve/preferences.json");
@@ -96,11 +115,14 @@ std::expected<void, IndexError> PreferenciasLinux::cambiar(std::string const& cl
                                                            std::optional<Valor> const& valor) {
   auto const carpeta = std::filesystem::path{archivo_}.parent_path().string();
   if (auto creada = crearCarpeta(carpeta); !creada) return noSeGuarda(archivo_, creada.error());
-  auto const cerrojo = tomarCerrojo(unirRuta(carpeta, "preferences.lock"));
+  auto const rutaDelCerrojo = unirRuta(carpeta, "preferences.lock");
+  auto const cerrojo = tomarCerrojo(rutaDelCerrojo, plazo_);
+  if (!cerrojo && cerrojo.error().codigo == EWOULDBLOCK) return estaTomado(archivo_, rutaDelCerrojo);
   if (!cerrojo) return noSeGuarda(archivo_, cerrojo.error());
   auto const texto = textoDe(archivo_);
   if (!texto) return std::unexpected{texto.error()};
-  auto const nuevo = conValorEnObjetoJson(*texto, clave, valor);
+  auto const nuevo = conValorEnObjetoJson(*texto, clave, valor, tope);
+  if (nuevo.size() > tope) return noCabe(archivo_);
   if (auto escrito = reemplazarArchivo(archivo_, nuevo); !escrito)
     return noSeGuarda(archivo_, escrito.error());
   return {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <string>
 
 #include "ZorveCore/Preferencias.h"
@@ -9,10 +10,14 @@ namespace zorve {
 
 /// Preferences in one JSON object on disk, read afresh at each call. A change is made under a lock that every
 /// process of ours takes, keeps what it does not know, and replaces the file in one step (mode 0600); where
-/// the file is a link, what it points to is replaced. A file that is no JSON object is never touched.
+/// the file is a link, what it points to is replaced. A file that is no JSON object is never touched, and
+/// none is written that is too long to be read. A change may wait for the lock: never on the main thread.
 class PreferenciasLinux final : public Preferencias {
  public:
-  explicit PreferenciasLinux(std::string archivo);
+  /// How long a change waits for the lock.
+  static constexpr std::chrono::milliseconds plazoDelCerrojo{2000};
+
+  explicit PreferenciasLinux(std::string archivo, std::chrono::milliseconds plazo = plazoDelCerrojo);
 
   /// com.sarnol.zorve/preferences.json under the configuration folder.
   [[nodiscard]] static std::string archivoPorDefecto(EntornoLinux const& entorno);
@@ -28,6 +33,7 @@ class PreferenciasLinux final : public Preferencias {
                                                         std::optional<Valor> const& valor);
 
   std::string archivo_;
+  std::chrono::milliseconds plazo_;
 };
 
 }  // namespace zorve

@@ -1,16 +1,18 @@
 #include "ZorvePlatform/Linux/RutaDelAyudante.h"
 
-#include <unistd.h>
-
 #include <filesystem>
+
+#include "ZorvePlatform/Linux/EntornoLinux.h"
+#include "ZorvePlatform/Posix/Propiedad.h"
 
 namespace zorve {
 
 std::string rutaDelAyudanteDesde(std::string const& carpeta) {
   std::filesystem::path const base{carpeta};
-  auto const alLado = base / "zorve-terminal";
-  if (::access(alLado.c_str(), X_OK) == 0) return alLado.string();
-  return (base.parent_path() / "libexec/zorve/zorve-terminal").string();
+  for (auto const& ruta : {base / "zorve-terminal", base.parent_path() / "libexec/zorve/zorve-terminal"}) {
+    if (esEjecutable(ruta.string()) && soloNuestra(ruta.string())) return ruta.string();
+  }
+  return "/usr/libexec/zorve/zorve-terminal";
 }
 
 std::string rutaDelAyudante() {

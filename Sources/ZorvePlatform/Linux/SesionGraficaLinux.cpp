@@ -22,7 +22,8 @@ bool esEscritorio(std::string_view nombre) {
 SesionGrafica sesionGraficaDelProceso() {
   if (!tieneValor("WAYLAND_DISPLAY")) return tieneValor("DISPLAY") ? SesionGrafica::x11 : SesionGrafica::otra;
   if (tieneValor("SWAYSOCK")) return SesionGrafica::sway;
-  return esEscritorio("KDE") ? SesionGrafica::kwin : SesionGrafica::otra;
+  if (esEscritorio("KDE")) return SesionGrafica::kwin;
+  return esEscritorio("GNOME") ? SesionGrafica::gnome : SesionGrafica::otra;
 }
 
 }  // namespace zorve

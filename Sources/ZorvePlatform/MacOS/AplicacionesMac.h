@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ZorveCore/AplicacionesInstaladas.h"
+#include "ZorveCore/Terminales/AplicacionesInstaladas.h"
 
 namespace zorve {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "ZorveCore/Texto.h"
+#include "ZorveCore/Texto/Texto.h"
 
 namespace zorve {
 

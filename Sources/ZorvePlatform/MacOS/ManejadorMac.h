@@ -1,13 +1,13 @@
 #pragma once
 
-#include "ZorveCore/ManejadorDelSistema.h"
+#include "ZorveCore/Terminales/ManejadorDelSistema.h"
 
 namespace zorve {
 
 /// Asks the workspace at each call; identifiers are bundle identifiers.
 class ManejadorMac final : public ManejadorDelSistema {
  public:
-  [[nodiscard]] std::optional<std::string> aplicacionPara(std::string_view tipo) const override;
+  [[nodiscard]] RespuestaDelSistema preguntar(std::string_view tipo) const override;
 };
 
 }  // namespace zorve

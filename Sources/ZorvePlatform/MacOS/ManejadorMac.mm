@@ -7,15 +7,15 @@
 
 namespace zorve {
 
-std::optional<std::string> ManejadorMac::aplicacionPara(std::string_view tipo) const {
+RespuestaDelSistema ManejadorMac::preguntar(std::string_view tipo) const {
   @autoreleasepool {
     UTType* const conocido = [UTType typeWithIdentifier:cadena(tipo)];
-    if (conocido == nil) return std::nullopt;
+    if (conocido == nil) return {};
     NSURL* const aplicacion = [NSWorkspace.sharedWorkspace URLForApplicationToOpenContentType:conocido];
-    if (aplicacion == nil) return std::nullopt;
+    if (aplicacion == nil) return {};
     NSString* const identificador = [[NSBundle alloc] initWithURL:aplicacion].bundleIdentifier;
-    if (identificador == nil) return std::nullopt;
-    return textoDe(identificador);
+    if (identificador == nil) return {};
+    return {.aplicacion = textoDe(identificador)};
   }
 }
 

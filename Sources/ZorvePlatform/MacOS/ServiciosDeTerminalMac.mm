@@ -1,4 +1,5 @@
-#include "ZorveCore/TerminalesDeLinux.h"
+#include "ZorveCore/Terminales/TerminalDeLinux.h"
+#include "ZorveCore/Terminales/TerminalesDeMac.h"
 #include "ZorvePlatform/MacOS/AplicacionesMac.h"
 #include "ZorvePlatform/MacOS/ManejadorMac.h"
 #include "ZorvePlatform/MacOS/PreferenciasMac.h"
@@ -16,11 +17,13 @@ constexpr char const* ayudanteDeLinux = "/usr/libexec/zorve/zorve-terminal";
 ServiciosDeTerminal serviciosDeTerminal(std::string const& /*home*/) {
   ServiciosDeTerminal servicios{.aplicaciones = std::make_unique<AplicacionesMac>(),
                                 .manejador = std::make_unique<ManejadorMac>(),
-                                .preferencias = std::make_unique<PreferenciasMac>(),
-                                .rutaPs = "/bin/ps"};
-  servicios.propias = todas(*servicios.aplicaciones);
+                                .preferencias = std::make_unique<PreferenciasMac>()};
+  servicios.apertura.fuentes = fuentesDelSistema(todas(*servicios.aplicaciones), *servicios.manejador,
+                                                 *servicios.preferencias, vocesDeAqui());
   servicios.ajenas = terminalesDeLinux(*servicios.aplicaciones, ayudanteDeLinux);
   return servicios;
 }
+
+VocesDelSistema vocesDeAqui() { return {}; }
 
 }  // namespace zorve

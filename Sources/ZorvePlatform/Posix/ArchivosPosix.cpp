@@ -107,4 +107,9 @@ std::expected<std::vector<std::string>, FalloDelSistema> ArchivosPosix::listar(s
   return nombres;
 }
 
+bool ArchivosPosix::existe(std::string const& ruta) {
+  struct stat estado{};
+  return !tieneNul(ruta) && ::stat(ruta.c_str(), &estado) == 0;
+}
+
 }  // namespace zorve

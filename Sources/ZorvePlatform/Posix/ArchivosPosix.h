@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ZorveCore/Archivos.h"
+#include "ZorveCore/Lectura/Archivos.h"
 
 namespace zorve {
 
@@ -12,6 +12,7 @@ class ArchivosPosix final : public Archivos {
   [[nodiscard]] std::expected<Atributos, FalloDelSistema> atributos(std::string const& ruta) override;
   [[nodiscard]] std::expected<std::vector<std::string>, FalloDelSistema> listar(
       std::string const& ruta) override;
+  [[nodiscard]] bool existe(std::string const& ruta) override;
 };
 
 }  // namespace zorve

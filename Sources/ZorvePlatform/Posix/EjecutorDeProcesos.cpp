@@ -1,7 +1,6 @@
 #include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
 
 #include <fcntl.h>
-#include <spawn.h>
 #include <sys/wait.h>
 
 #include <algorithm>
@@ -11,8 +10,10 @@
 #include <utility>
 #include <vector>
 
-#include "ZorveCore/Texto.h"
+#include "ZorveCore/Lectura/Archivos.h"
+#include "ZorveCore/Texto/Texto.h"
 #include "ZorvePlatform/Posix/Descriptor.h"
+#include "ZorvePlatform/Posix/Flujo.h"
 #include "ZorvePlatform/Posix/ProcesoHijo.h"
 
 extern char** environ;  // NOLINT(readability-redundant-declaration)
@@ -45,32 +46,20 @@ struct Hijo {
   Descriptor lectura;
 };
 
-std::expected<Hijo, FalloDelSistema> lanzar(std::vector<std::string> palabras,
+std::expected<Hijo, FalloDelSistema> lanzar(std::string const& ruta, std::vector<std::string> args,
                                             std::vector<std::string> entorno) {
   static std::mutex unoALaVez;
   std::scoped_lock const turno{unoALaVez};
   auto tubo = nuevoTubo();
   if (!tubo) return std::unexpected{std::move(tubo).error()};
-  AccionesDelHijo const acciones{tubo->escritura.numero(), tubo->escritura.numero()};
-  AtributosDelHijo const atributos;
-  if (int const codigo = std::max(acciones.codigo(), atributos.codigo()); codigo != 0) return fallo(codigo);
-  Hijo hijo{0, std::move(tubo->lectura)};
-  auto const ruta = palabras.front();
-  int const codigo = ::posix_spawn(&hijo.pid, ruta.c_str(), acciones.puntero(), atributos.puntero(),
-                                   punteros(palabras).data(), punteros(entorno).data());
-  if (codigo != 0) return fallo(codigo);
-  return hijo;
-}
-
-std::string leerHastaElFin(int descriptor) {
-  std::string todo;
-  std::array<char, 65536> trozo{};
-  for (;;) {
-    auto const n = ::read(descriptor, trozo.data(), trozo.size());
-    if (n < 0 && errno == EINTR) continue;
-    if (n <= 0) return todo;
-    todo.append(trozo.data(), static_cast<std::size_t>(n));
-  }
+  int const salida = tubo->escritura.numero();
+  auto const pid = empezarHijo({.ruta = ruta,
+                                .args = std::move(args),
+                                .entorno = std::move(entorno),
+                                .salida = salida,
+                                .error = salida});
+  if (!pid) return fallo(pid.error());
+  return Hijo{*pid, std::move(tubo->lectura)};
 }
 
 std::expected<std::int32_t, FalloDelSistema> esperar(pid_t pid) {
@@ -94,14 +83,20 @@ std::expected<ResultadoDeEjecucion, FalloDelSistema> EjecutorDeProcesos::correr(
   if (tieneNul(ruta) || std::ranges::any_of(args, tieneNul)) {
     return std::unexpected{FalloDelSistema{EINVAL, "The path or an argument holds a NUL byte"}};
   }
-  std::vector<std::string> palabras{ruta};
-  palabras.insert(palabras.end(), args.begin(), args.end());
-  auto const hijo = lanzar(std::move(palabras), entorno_);
+  auto const hijo =
+      lanzar(ruta, {args.begin(), args.end()}, nombreBase(ruta) == "ps" ? entornoParaPs(entorno_) : entorno_);
   if (!hijo) return std::unexpected{hijo.error()};
-  auto const salida = leerHastaElFin(hijo->lectura.numero());
+  auto const salida = leerHastaElFin(hijo->lectura.numero()).value_or("");
   auto const codigo = esperar(hijo->pid);
   if (!codigo) return std::unexpected{codigo.error()};
   return ResultadoDeEjecucion{*codigo, conUtf8Valido(salida)};
+}
+
+std::vector<std::string> entornoParaPs(std::vector<std::string> const& entorno) {
+  std::vector<std::string> propio{"LC_ALL=C"};
+  auto const path = std::ranges::find_if(entorno, [](auto const& una) { return una.starts_with("PATH="); });
+  if (path != entorno.end()) propio.push_back(*path);
+  return propio;
 }
 
 std::vector<std::string> entornoDelProceso() {

@@ -3,13 +3,14 @@
 #include <string>
 #include <vector>
 
-#include "ZorveCore/Ejecutor.h"
+#include "ZorveCore/Terminales/Ejecutor.h"
 
 namespace zorve {
 
 /// Starts real processes. They get /dev/null as standard input, one pipe for both output streams, no other
 /// descriptor of ours, every signal at its default and none blocked; the directory is ours. The pipe is read
-/// to its end before waiting. Any thread, several at once.
+/// to its end before waiting. A program called ps gets nothing of the environment but PATH, and LC_ALL=C, so
+/// that no COLUMNS or PS_FORMAT of the person's changes what it prints. Any thread, several at once.
 class EjecutorDeProcesos final : public Ejecutor {
  public:
   /// Children get this process's environment as it is now.
@@ -23,6 +24,9 @@ class EjecutorDeProcesos final : public Ejecutor {
  private:
   std::vector<std::string> entorno_;
 };
+
+/// What of `entorno` a ps gets.
+[[nodiscard]] std::vector<std::string> entornoParaPs(std::vector<std::string> const& entorno);
 
 /// The variables of this process. Not while another thread changes them.
 [[nodiscard]] std::vector<std::string> entornoDelProceso();

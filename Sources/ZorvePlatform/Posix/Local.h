@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ZorveCore/Texto.h"
+#include "ZorveCore/Texto/TextoPlegado.h"
 
 namespace zorve {
 

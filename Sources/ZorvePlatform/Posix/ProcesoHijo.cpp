@@ -4,6 +4,10 @@
 #include <signal.h>  // NOLINT(modernize-deprecated-headers): sigset_t is POSIX, not C++
 #include <unistd.h>
 
+#include <algorithm>
+#include <csignal>
+#include <utility>
+
 namespace zorve {
 
 AccionesDelHijo::AccionesDelHijo(int salida, int error) {
@@ -52,6 +56,25 @@ AtributosDelHijo::AtributosDelHijo(unsigned ademas) {
 AtributosDelHijo::~AtributosDelHijo() {
   if (iniciados_) ::posix_spawnattr_destroy(&atributos_);
 }
+
+std::expected<pid_t, int> empezarHijo(Arranque arranque) {
+  AccionesDelHijo acciones{arranque.salida, arranque.error};
+#if defined(__GLIBC__)
+  if (!arranque.directorio.empty()) acciones.empezarEn(arranque.directorio);
+#endif
+  AtributosDelHijo const atributos{arranque.ademas};
+  if (int const codigo = std::max(acciones.codigo(), atributos.codigo()); codigo != 0) {
+    return std::unexpected{codigo};
+  }
+  arranque.args.insert(arranque.args.begin(), arranque.ruta);
+  pid_t pid = 0;
+  int const codigo = ::posix_spawn(&pid, arranque.ruta.c_str(), acciones.puntero(), atributos.puntero(),
+                                   punteros(arranque.args).data(), punteros(arranque.entorno).data());
+  if (codigo != 0) return std::unexpected{codigo};
+  return pid;
+}
+
+void recordarALosHijos() { (void)std::signal(SIGCHLD, SIG_DFL); }
 
 std::vector<char*> punteros(std::vector<std::string>& textos) {
   std::vector<char*> resultado;

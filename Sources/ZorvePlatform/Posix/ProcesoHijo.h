@@ -1,7 +1,9 @@
 #pragma once
 
 #include <spawn.h>
+#include <sys/types.h>
 
+#include <expected>
 #include <string>
 #include <vector>
 
@@ -58,6 +60,29 @@ class AtributosDelHijo {
   int codigo_ = 0;
   bool iniciados_ = false;
 };
+
+/// A program to start.
+struct Arranque {
+  /// Its absolute path, and what follows the program's name.
+  std::string ruta;
+  std::vector<std::string> args = {};
+  /// "NAME=value" texts.
+  std::vector<std::string> entorno = {};
+  /// Where its output goes, and its errors (-1: nowhere).
+  int salida = -1;
+  int error = -1;
+  /// POSIX_SPAWN_SETPGROUP, POSIX_SPAWN_SETSID.
+  unsigned ademas = 0;
+  /// Where it starts: a directory that is there; the empty text: where this process is.
+  std::string directorio = {};
+};
+
+/// Starts it as the two records above say, and gives its number, or the errno value that says why not.
+[[nodiscard]] std::expected<pid_t, int> empezarHijo(Arranque arranque);
+
+/// Children that end wait to be asked how. Whoever starts a program with SIGCHLD ignored takes that from it:
+/// the kernel then forgets them at once (sigaction(2), POSIX). For the beginning of a main.
+void recordarALosHijos();
 
 /// `textos` as exec takes them, a null pointer at the end; they hold while `textos` does.
 [[nodiscard]] std::vector<char*> punteros(std::vector<std::string>& textos);

@@ -10,6 +10,7 @@
 #include <filesystem>
 
 #include "ZorvePlatform/Posix/Descriptor.h"
+#include "ZorvePlatform/Posix/Flujo.h"
 
 namespace zorve {
 
@@ -34,20 +35,12 @@ std::expected<std::filesystem::path, FalloDelSistema> destinoDe(std::filesystem:
   return std::unexpected{FalloDelSistema::deErrno(ELOOP)};
 }
 
-Resultado escribirTodo(int descriptor, std::string_view contenido) {
-  while (!contenido.empty()) {
-    auto const n = ::write(descriptor, contenido.data(), contenido.size());
-    if (n < 0 && errno == EINTR) continue;
-    if (n < 0) return segun(false);
-    contenido.remove_prefix(static_cast<std::size_t>(n));
-  }
-  return {};
-}
-
 Resultado llenar(int descriptor, std::string_view contenido) {
   if (::fcntl(descriptor, F_SETFD, FD_CLOEXEC) != 0) return segun(false);
   if (::fchmod(descriptor, S_IRUSR | S_IWUSR) != 0) return segun(false);
-  if (auto escrito = escribirTodo(descriptor, contenido); !escrito) return escrito;
+  if (int const codigo = escribirTodo(descriptor, contenido); codigo != 0) {
+    return std::unexpected{FalloDelSistema::deErrno(codigo)};
+  }
   return segun(::fsync(descriptor) == 0);
 }
 

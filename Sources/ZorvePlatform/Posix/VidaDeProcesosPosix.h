@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ZorveCore/VidaDeProcesos.h"
+#include "ZorveCore/Lectura/VidaDeProcesos.h"
 
 namespace zorve {
 

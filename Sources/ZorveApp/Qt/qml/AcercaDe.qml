@@ -1,36 +1,33 @@
 import QtQuick
-import Zorve.Dibujo
+import Zorve.Tipos
 
 // The mark, the name with its version, and how to quit.
 Item {
+    implicitHeight: columna.height
+
     Column {
+        id: columna
         anchors.centerIn: parent
-        anchors.verticalCenterOffset: -16
-        spacing: 8
+        anchors.verticalCenterOffset: -Medidas.subidaDeEmblema
+        spacing: Medidas.huecoDeEmblema
 
         MarcaDibujada {
             anchors.horizontalCenter: parent.horizontalCenter
-            width: 72; height: 72
-            color: estilo.acento
+            width: Medidas.ladoDeEmblema; height: width
+            color: Estilo.acento
         }
-        Item { width: 1; height: 6 }
-        Text {
+        Item { width: Medidas.borde; height: Medidas.bajoEmblema }
+        LetreroDicho {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: ajustes.nombreYVersion
-            textFormat: Text.PlainText
-            font { pointSize: estilo.letraDeTitulo; weight: Font.Medium }
-            color: estilo.textoAlto
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
+            text: DatosDeAjustes.nombreYVersion
+            font { pointSize: Estilo.letraDeTitulo; weight: Font.Medium }
+            color: Estilo.textoAlto
         }
-        Text {
+        LetreroDicho {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: ajustes.paraCerrar
-            textFormat: Text.PlainText
-            font.pointSize: estilo.letraDeNota
-            color: estilo.textoTenue
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
+            text: DatosDeAjustes.paraCerrar
+            font.pointSize: Estilo.letraDeNota
+            color: Estilo.textoTenue
         }
     }
 }

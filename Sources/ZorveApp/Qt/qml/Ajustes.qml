@@ -1,31 +1,35 @@
 import QtQuick
-import Zorve.Dibujo
+import Zorve.Tipos
 
 // The settings: sections on the left, the chosen one's content on the right.
 Escalado {
     id: raiz
 
-    width: 620 * estilo.escala
-    height: 460 * estilo.escala
+    // Whether a frame around it draws the glass and the round corners.
+    property bool enMarco: false
 
-    Vidrio { anchors.fill: parent; densidad: 1 }
+    width: Medidas.anchoDeAjustes * Estilo.escala
+    height: Medidas.altoDeAjustes * Estilo.escala
+
+    Vidrio { anchors.fill: parent; densidad: 1; visible: !raiz.enMarco }
 
     BarraLateral {
         id: barra
+        radio: raiz.enMarco ? Medidas.radioDelPanel : 0
         anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
     }
 
     Rectangle {
         anchors { left: barra.right; top: parent.top; bottom: parent.bottom }
-        width: 1
-        color: estilo.linea
+        width: Medidas.borde
+        color: Estilo.linea
     }
 
     Flickable {
         id: area
         objectName: "area"
-        anchors { left: barra.right; leftMargin: 1; right: parent.right; top: parent.top; bottom: parent.bottom }
-        contentHeight: contenido.height + 40
+        anchors { left: barra.right; leftMargin: Medidas.borde; right: parent.right; top: parent.top; bottom: parent.bottom }
+        contentHeight: contenido.height + 2 * Medidas.margenSobreAjustes
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
@@ -34,62 +38,58 @@ Escalado {
         readonly property FilaDeOpcion enfocada: raiz.Window.activeFocusItem as FilaDeOpcion
         onEnfocadaChanged: {
             if (!enfocada) return
-            const arriba = enfocada.mapToItem(contenido, 0, 0).y + contenido.y - 20
-            const abajo = arriba + enfocada.height + 40
+            const arriba = enfocada.mapToItem(contenido, 0, 0).y + contenido.y - Medidas.margenSobreAjustes
+            const abajo = arriba + enfocada.height + 2 * Medidas.margenSobreAjustes
             if (arriba < contentY) contentY = Math.max(0, arriba)
             if (abajo > contentY + height) contentY = abajo - height
         }
 
         Column {
             id: contenido
-            x: 24; y: 20
-            width: parent.width - 48
-            spacing: 18
+            x: Medidas.margenDeAjustes; y: Medidas.margenSobreAjustes
+            width: parent.width - 2 * x
+            spacing: Medidas.huecoDeAjustes
 
             Tarjeta {
                 width: parent.width
-                visible: ajustes.banda.length > 0
-                texto: ajustes.banda
+                visible: DatosDeAjustes.banda.length > 0
+                texto: DatosDeAjustes.banda
             }
             Repeater {
                 // Counted, not listed: who has the keyboard keeps it when a value changes.
-                model: ajustes.grupos.length
+                model: DatosDeAjustes.grupos.length
                 delegate: GrupoDeOpciones {
                     required property int index
-                    readonly property var grupo: ajustes.grupos[index]
-                    width: contenido.width
+                    readonly property var grupo: DatosDeAjustes.grupos[index]
+                    width: parent.width
                     titulo: grupo ? grupo.titulo : ""
                     opciones: grupo ? grupo.opciones : []
-                    onElegida: opcion => ajustes.clicEnOpcion(index, opcion)
+                    onElegida: opcion => DatosDeAjustes.opcionPulsada(index, opcion)
                 }
             }
-            Text {
+            AcercaDe {
+                objectName: "acercaDe"
                 width: parent.width
-                visible: text.length > 0
-                text: ajustes.texto
-                textFormat: Text.PlainText
-                wrapMode: Text.Wrap
-                font.pointSize: estilo.letraDeOpcion
-                color: estilo.textoTenue
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
+                height: Math.max(implicitHeight, area.height - 2 * Medidas.margenSobreAjustes - y)
+                visible: DatosDeAjustes.acercaDe
             }
-            Text {
+            LetreroDicho {
                 width: parent.width
                 visible: text.length > 0
-                text: ajustes.pie
-                textFormat: Text.PlainText
+                text: DatosDeAjustes.texto
                 wrapMode: Text.Wrap
-                font.pointSize: estilo.letraDeNota
-                color: estilo.textoTenue
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
+                font.pointSize: Estilo.letraDeOpcion
+                color: Estilo.textoTenue
+            }
+            LetreroDicho {
+                width: parent.width
+                visible: text.length > 0
+                text: DatosDeAjustes.pie
+                wrapMode: Text.Wrap
+                font.pointSize: Estilo.letraDeNota
+                color: Estilo.textoTenue
             }
         }
     }
 
-    AcercaDe {
-        anchors { left: barra.right; right: parent.right; top: parent.top; bottom: parent.bottom }
-        visible: ajustes.seccion === "acercaDe"
-    }
 }

@@ -1,15 +1,22 @@
 import QtQuick
+import Zorve.Tipos
 
 // Help text for what is under the pointer, after it has rested there.
 Rectangle {
     id: ayuda
+    objectName: "ayuda"
 
+    // Whose help it is.
+    property Item de: null
     property double cabeza: 0
     property double pie: 0
+    readonly property string texto: letrero.text
 
-    // Shows `texto` for what reaches from `arriba` to `abajo`: below it in the upper half, else above it. An empty
-    // text takes it away.
-    function mostrar(texto, arriba, abajo) {
+    // Shows `texto` for `quien`, which reaches from `arriba` to `abajo`: below it in the upper half, else above it. An
+    // empty text takes away what is shown for `quien`, and nothing else: who is left may tell after who is entered.
+    function mostrar(quien, texto, arriba, abajo) {
+        if (texto.length === 0 && quien !== de) return
+        de = texto.length > 0 ? quien : null
         visible = false
         letrero.text = texto
         cabeza = arriba
@@ -19,23 +26,22 @@ Rectangle {
     }
 
     visible: false
-    anchors { right: parent.right; rightMargin: 12 }
-    y: pie < parent.height / 2 ? pie - 6 : cabeza - height + 2
-    width: Math.min(letrero.implicitWidth, estilo.ancho - 80) + 18
-    height: letrero.height + 10
-    radius: 6
-    color: Qt.rgba(0.12, 0.16, 0.19, 1)
-    border { width: 1; color: estilo.borde }
+    anchors { right: parent.right; rightMargin: Medidas.margenDeAyuda }
+    y: pie < parent.height / 2 ? pie - Medidas.ayudaBajoFila : cabeza - height + Medidas.ayudaSobreFila
+    width: Math.min(letrero.implicitWidth, Medidas.ancho - Medidas.huecoDeAyuda) + 2 * Medidas.xDeAyuda
+    height: letrero.height + 2 * Medidas.yDeAyuda
+    radius: Medidas.radioDeAyuda
+    color: Estilo.fondoDeAyuda
+    border { width: Medidas.borde; color: Estilo.borde }
 
     Timer { id: espera; interval: 700; onTriggered: ayuda.visible = true }
 
-    Text {
+    Letrero {
         id: letrero
-        x: 9; y: 5
-        width: ayuda.width - 18
-        textFormat: Text.PlainText
+        x: Medidas.xDeAyuda; y: Medidas.yDeAyuda
+        width: ayuda.width - 2 * x
         wrapMode: Text.Wrap
-        font.pointSize: estilo.letraDelPie
-        color: estilo.texto
+        font.pointSize: Estilo.letraDelPie
+        color: Estilo.texto
     }
 }

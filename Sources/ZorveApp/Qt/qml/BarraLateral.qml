@@ -1,72 +1,90 @@
 import QtQuick
-import Zorve.Dibujo
+import Zorve.Tipos
 
-// One row a section; the chosen one is drawn selected. Up and Down go from one to the next.
-Rectangle {
-    width: estilo.anchoDeBarraLateral
-    color: estilo.fondoDeBarraLateral
+// One row a section; the chosen one is drawn selected. Up and Down go from one to the next. `radio` rounds the corner
+// that the window's own corner is.
+Item {
+    id: barra
+
+    property double radio: 0
+
+    width: Medidas.anchoDeBarraLateral
+
+    Item {
+        anchors.fill: parent
+        clip: barra.radio > 0
+
+        Rectangle {
+            anchors { fill: parent; topMargin: -barra.radio; rightMargin: -barra.radio }
+            radius: barra.radio
+            color: Estilo.fondoDeBarraLateral
+        }
+    }
 
     Column {
-        anchors { fill: parent; margins: 10; topMargin: 20 }
-        spacing: 2
+        anchors { fill: parent; margins: Medidas.margenDeBarraLateral; topMargin: Medidas.margenSobreSecciones }
+        spacing: Medidas.huecoEntreSecciones
         Accessible.role: Accessible.PageTabList
+        Keys.onUpPressed: irA(conTeclado() - 1)
+        Keys.onDownPressed: irA(conTeclado() + 1)
+
+        function conTeclado() {
+            for (let cual = 0; cual < filas.count; cual++) if (filas.itemAt(cual).activeFocus) return cual
+            return -1
+        }
+        function irA(cual) {
+            if (cual < 0 || cual >= filas.count) return
+            DatosDeAjustes.seccionPulsada(cual)
+            filas.itemAt(cual).forceActiveFocus(Qt.TabFocusReason)
+        }
 
         Repeater {
             id: filas
-            model: ajustes.secciones.length
+            model: DatosDeAjustes.secciones.length
             delegate: Rectangle {
                 id: fila
                 required property int index
-                readonly property var datos: ajustes.secciones[index]
-
-                function irA(cual) {
-                    if (cual < 0 || cual >= filas.count) return
-                    ajustes.clicEnSeccion(cual)
-                    filas.itemAt(cual).forceActiveFocus(Qt.TabFocusReason)
-                }
+                readonly property var datos: DatosDeAjustes.secciones[index]
 
                 objectName: "seccion" + index
                 width: parent.width
-                height: estilo.altoDeSeccion
-                radius: 7
-                color: datos.elegida ? estilo.filaSeleccionada
-                                     : Qt.rgba(1, 1, 1, zona.pressed ? 0.06 : zona.containsMouse ? 0.03 : 0)
-                border { width: datos.elegida ? 1 : 0; color: estilo.contornoDeFila }
+                height: Medidas.altoDeSeccion
+                radius: Medidas.radioDeSeccion
+                color: datos.elegida ? Estilo.filaSeleccionada
+                                     : zona.pressed ? Estilo.filaAlPulsar : zona.containsMouse ? Estilo.filaAlPasar : "transparent"
+                border { width: datos.elegida ? Medidas.borde : 0; color: Estilo.contornoDeFila }
                 activeFocusOnTab: true
-                Keys.onSpacePressed: ajustes.clicEnSeccion(index)
-                Keys.onReturnPressed: ajustes.clicEnSeccion(index)
-                Keys.onEnterPressed: ajustes.clicEnSeccion(index)
-                Keys.onUpPressed: irA(index - 1)
-                Keys.onDownPressed: irA(index + 1)
+                Keys.onSpacePressed: DatosDeAjustes.seccionPulsada(index)
+                Keys.onReturnPressed: DatosDeAjustes.seccionPulsada(index)
+                Keys.onEnterPressed: DatosDeAjustes.seccionPulsada(index)
                 Accessible.role: Accessible.PageTab
                 Accessible.name: datos.titulo
                 Accessible.focusable: true
                 Accessible.selectable: true
                 Accessible.selected: datos.elegida
-                Accessible.onPressAction: ajustes.clicEnSeccion(index)
+                Accessible.onPressAction: DatosDeAjustes.seccionPulsada(index)
 
                 Foco { separacion: 0 }
                 Simbolo {
-                    x: 10
+                    x: Medidas.xDeSimbolo
                     anchors.verticalCenter: parent.verticalCenter
-                    width: 15; height: 15
-                    nombre: fila.datos.simbolo
-                    grosor: 1.3
-                    color: fila.datos.elegida ? estilo.acento : estilo.textoTenue
+                    width: Medidas.ladoDeSimbolo; height: width
+                    forma: fila.datos.simbolo
+                    grosor: Medidas.trazoDeSimbolo
+                    color: fila.datos.elegida ? Estilo.acento : Estilo.textoTenue
                 }
-                Text {
-                    anchors { left: parent.left; leftMargin: 34; verticalCenter: parent.verticalCenter }
+                Letrero {
+                    anchors { left: parent.left; leftMargin: Medidas.xDeSeccion; verticalCenter: parent.verticalCenter }
                     text: fila.datos.titulo
-                    textFormat: Text.PlainText
-                    font.pointSize: estilo.letraDeOpcion
-                    color: fila.datos.elegida ? estilo.textoAlto : estilo.texto
+                    font.pointSize: Estilo.letraDeOpcion
+                    color: fila.datos.elegida ? Estilo.textoAlto : Estilo.texto
                     Accessible.ignored: true
                 }
                 MouseArea {
                     id: zona
                     anchors.fill: parent
                     hoverEnabled: true
-                    onClicked: ajustes.clicEnSeccion(fila.index)
+                    onClicked: DatosDeAjustes.seccionPulsada(fila.index)
                 }
             }
         }

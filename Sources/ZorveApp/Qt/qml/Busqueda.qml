@@ -1,65 +1,67 @@
 import QtQuick
-import Zorve.Dibujo
+import Zorve.Tipos
 
 // The search field. What is typed goes to the panel at once; what the panel holds comes back here.
 FocusScope {
-    height: estilo.altoDeBusqueda
+    height: Medidas.altoDeBusqueda
 
     Simbolo {
-        x: estilo.xDeLupa
+        x: Medidas.xDeLupa
         anchors.verticalCenter: parent.verticalCenter
-        width: 16; height: 16
-        nombre: "lupa"
-        grosor: 1.6
-        color: campo.text.length > 0 ? estilo.texto : estilo.textoTenue
+        width: Medidas.ladoDeLupa; height: width
+        forma: Simbolo.Lupa
+        grosor: Medidas.trazoDeLupa
+        color: campo.text.length > 0 ? Estilo.texto : Estilo.textoTenue
     }
 
     TextInput {
         id: campo
         objectName: "campo"
-        anchors { left: parent.left; leftMargin: estilo.xDeBusqueda; right: limpiar.left; rightMargin: 8 }
+        anchors { left: parent.left; leftMargin: Medidas.xDeBusqueda; right: limpiar.left; rightMargin: Medidas.huecoDeBusqueda }
         anchors.verticalCenter: parent.verticalCenter
         focus: true
         clip: true
-        font.pointSize: estilo.letraDeBusqueda
-        color: estilo.textoAlto
-        selectionColor: Qt.rgba(estilo.acento.r, estilo.acento.g, estilo.acento.b, 0.3)
-        selectedTextColor: estilo.textoAlto
+        font.pointSize: Estilo.letraDeBusqueda
+        color: Estilo.textoAlto
+        selectionColor: Estilo.textoEscogido
+        selectedTextColor: Estilo.textoAlto
         selectByMouse: true
         maximumLength: 2000
         cursorDelegate: Cursor {}
         Accessible.role: Accessible.EditableText
-        Accessible.name: panel.nombreDelCampo
+        Accessible.name: DatosDelPanel.nombreDelCampo
         Accessible.searchEdit: true
 
-        onTextEdited: panel.escribirConsulta(text)
-        Component.onCompleted: text = panel.consulta
+        onTextEdited: DatosDelPanel.consultaEscrita(text)
+        Component.onCompleted: text = DatosDelPanel.consulta
         Connections {
-            target: panel
-            function onCambio() { if (campo.text !== panel.consulta) campo.text = panel.consulta }
+            target: DatosDelPanel
+            // What was searched last is there to be kept, or to be typed over.
+            function onAparecio() { campo.selectAll() }
+            function onCambio() { if (campo.text !== DatosDelPanel.consulta) campo.text = DatosDelPanel.consulta }
         }
     }
 
     Simbolo {
         id: limpiar
-        anchors { right: parent.right; rightMargin: estilo.margenDerecho - 2; verticalCenter: parent.verticalCenter }
-        width: 16; height: 16
-        nombre: "equis"
+        objectName: "limpiar"
+        anchors { right: parent.right; rightMargin: Medidas.margenDeEquis; verticalCenter: parent.verticalCenter }
+        width: Medidas.ladoDeEquis; height: width
+        forma: Simbolo.Equis
         visible: campo.text.length > 0
-        color: zona.containsMouse ? estilo.textoAlto : estilo.textoDebil
+        color: zona.containsMouse ? Estilo.textoAlto : Estilo.textoDebil
+        Accessible.role: Accessible.Button
+        Accessible.name: DatosDelPanel.nombreDeLimpiar
+        Accessible.onPressAction: DatosDelPanel.consultaEscrita("")
 
         MouseArea {
             id: zona
-            anchors { fill: parent; margins: -8 }
+            anchors { fill: parent; margins: -Medidas.alcanceDeEquis }
             hoverEnabled: true
             cursorShape: Qt.PointingHandCursor
-            onClicked: panel.escribirConsulta("")
+            onClicked: DatosDelPanel.consultaEscrita("")
         }
     }
 
-    Rectangle {
-        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; leftMargin: 1; rightMargin: 1 }
-        height: 1
-        color: estilo.linea
-    }
+    Raya { anchors.bottom: parent.bottom }
 }

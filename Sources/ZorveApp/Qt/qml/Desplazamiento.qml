@@ -1,4 +1,5 @@
 import QtQuick
+import Zorve.Tipos
 
 // A thin mark of the place in a list that scrolls. It can be taken and dragged; a press beside it brings it there.
 Item {
@@ -6,27 +7,27 @@ Item {
 
     property Flickable lista
 
-    readonly property double recorrido: height - 4 - marca.height
+    readonly property double recorrido: height - 2 * Medidas.bordeDeCarril - marca.height
     // How much of the content lies outside the list.
     readonly property double sobrante: lista.contentHeight + lista.topMargin + lista.bottomMargin - lista.height
 
     anchors { right: lista.right; top: lista.top; bottom: lista.bottom }
-    width: 12
+    width: Medidas.carril
     visible: lista.visibleArea.heightRatio < 1
 
     function llevar(y) {
-        const parte = Math.max(0, Math.min(1, (y - 2) / Math.max(1, recorrido)))
+        const parte = Math.max(0, Math.min(1, (y - Medidas.bordeDeCarril) / Math.max(1, recorrido)))
         lista.contentY = lista.originY - lista.topMargin + parte * sobrante
     }
 
     Rectangle {
         id: marca
-        anchors { right: parent.right; rightMargin: 3 }
-        y: 2 + carril.recorrido * carril.lista.visibleArea.yPosition / Math.max(0.001, 1 - carril.lista.visibleArea.heightRatio)
-        width: zona.pressed || zona.containsMouse ? 6 : 3
-        height: Math.max(24, (carril.height - 4) * carril.lista.visibleArea.heightRatio)
+        anchors { right: parent.right; rightMargin: Medidas.margenDeAsidero }
+        y: Medidas.bordeDeCarril + carril.recorrido * carril.lista.visibleArea.yPosition / Math.max(0.001, 1 - carril.lista.visibleArea.heightRatio)
+        width: zona.pressed || zona.containsMouse ? Medidas.asideroTomado : Medidas.asidero
+        height: Math.max(Medidas.largoDeAsidero, (carril.height - 2 * Medidas.bordeDeCarril) * carril.lista.visibleArea.heightRatio)
         radius: width / 2
-        color: estilo.textoDebil
+        color: Estilo.textoDebil
         opacity: zona.pressed || zona.containsMouse || carril.lista.moving ? 0.8 : 0.25
     }
 

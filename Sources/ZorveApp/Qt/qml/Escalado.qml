@@ -1,4 +1,5 @@
 import QtQuick
+import Zorve.Tipos
 
 // A window's content, enlarged as the desktop's text is: the root is as large as the window, what stands in it
 // is laid out at its own size.
@@ -11,9 +12,9 @@ FocusScope {
 
     Item {
         id: lienzo
-        width: raiz.width / estilo.escala
-        height: raiz.height / estilo.escala
-        scale: estilo.escala
+        width: raiz.width / Estilo.escala
+        height: raiz.height / Estilo.escala
+        scale: Estilo.escala
         transformOrigin: Item.TopLeft
     }
 }

@@ -1,5 +1,5 @@
 import QtQuick
-import Zorve.Dibujo
+import Zorve.Tipos
 
 // An option: the whole card is the button.
 Rectangle {
@@ -11,11 +11,11 @@ Rectangle {
     property bool cuadro: false
     signal elegida
 
-    height: nota.length > 0 ? estilo.altoDeOpcionConNota : estilo.altoDeOpcion
-    radius: estilo.radioDeOpcion
-    color: marcada ? estilo.filaSeleccionada
-                   : zona.pressed ? Qt.rgba(1, 1, 1, 0.09) : zona.containsMouse ? Qt.rgba(1, 1, 1, 0.065) : estilo.fondoDeOpcion
-    border { width: 1; color: marcada ? estilo.contornoDeFila : estilo.lineaFila }
+    height: nota.length > 0 ? Medidas.altoDeOpcionConNota : Medidas.altoDeOpcion
+    radius: Medidas.radioDeOpcion
+    color: marcada ? Estilo.filaSeleccionada
+                   : zona.pressed ? Estilo.opcionAlPulsar : zona.containsMouse ? Estilo.opcionAlPasar : Estilo.fondoDeOpcion
+    border { width: Medidas.borde; color: marcada ? Estilo.contornoDeFila : Estilo.lineaFila }
     activeFocusOnTab: true
     Keys.onSpacePressed: elegida()
     Keys.onReturnPressed: elegida()
@@ -32,59 +32,57 @@ Rectangle {
     Foco {}
     Item {
         id: marca
-        x: 14
+        x: Medidas.margenDeOpcion
         anchors.verticalCenter: parent.verticalCenter
-        width: estilo.ladoDeMarca; height: estilo.ladoDeMarca
+        width: Medidas.ladoDeMarca; height: Medidas.ladoDeMarca
 
         Simbolo {
             anchors.fill: parent
-            nombre: fila.cuadro ? "caja" : "aro"
-            color: fila.marcada ? estilo.acento : estilo.textoDebil
+            forma: fila.cuadro ? Simbolo.Caja : Simbolo.Aro
+            color: fila.marcada ? Estilo.acento : Estilo.textoDebil
         }
         Rectangle {
             anchors.fill: parent
             visible: fila.marcada && fila.cuadro
-            radius: 4
-            color: estilo.acento
+            radius: Medidas.radioDeCasilla
+            color: Estilo.acento
         }
         Simbolo {
             anchors.centerIn: parent
-            width: 12; height: 12
+            width: Medidas.ladoDeVisto; height: width
             visible: fila.marcada && fila.cuadro
-            nombre: "visto"
-            grosor: 1.8
-            color: Qt.rgba(0.05, 0.09, 0.1, 1)
+            forma: Simbolo.Visto
+            grosor: Medidas.trazoDeVisto
+            color: Estilo.visto
         }
         Rectangle {
             anchors.centerIn: parent
-            width: 8; height: 8; radius: 4
+            width: Medidas.ladoDePunto; height: width; radius: width / 2
             visible: fila.marcada && !fila.cuadro
-            color: estilo.acento
+            color: Estilo.acento
         }
     }
 
     Column {
-        anchors { left: marca.right; leftMargin: 12; right: parent.right; rightMargin: 14; verticalCenter: parent.verticalCenter }
-        spacing: 2
-        Text {
+        anchors { left: marca.right; leftMargin: Medidas.huecoDeOpcion; right: parent.right; rightMargin: Medidas.margenDeOpcion; verticalCenter: parent.verticalCenter }
+        spacing: Medidas.huecoDeNota
+        Letrero {
             width: parent.width
             text: fila.titulo
-            textFormat: Text.PlainText
             elide: Text.ElideRight
             maximumLineCount: 1
-            font { pointSize: estilo.letraDeOpcion; weight: Font.Medium }
-            color: estilo.textoAlto
+            font { pointSize: Estilo.letraDeOpcion; weight: Font.Medium }
+            color: Estilo.textoAlto
             Accessible.ignored: true
         }
-        Text {
+        Letrero {
             width: parent.width
             visible: text.length > 0
             text: fila.nota
-            textFormat: Text.PlainText
             elide: Text.ElideRight
             maximumLineCount: 1
-            font.pointSize: estilo.letraDeNota
-            color: estilo.textoTenue
+            font.pointSize: Estilo.letraDeNota
+            color: Estilo.textoTenue
             Accessible.ignored: true
         }
     }

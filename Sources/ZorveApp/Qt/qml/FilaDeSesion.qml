@@ -1,4 +1,5 @@
 import QtQuick
+import Zorve.Tipos
 
 // One session: its state, title, directory and when it was last active.
 Item {
@@ -11,13 +12,13 @@ Item {
     required property string palabra
     required property string tiempo
     required property string conteo
-    required property string estado
+    required property int estado
     property bool seleccionada: false
     property bool conLinea: true
     signal pulsada
     signal senalada(string texto)
 
-    height: estilo.altoDeFila
+    height: Medidas.altoDeFila
     Accessible.role: Accessible.ListItem
     Accessible.name: fila.titulo
     Accessible.description: [palabra, ruta.replace(/\u200e/g, ""), tiempo, conteo, ayuda].filter(dicho => dicho.length > 0).join(", ")
@@ -26,15 +27,15 @@ Item {
     Accessible.onPressAction: pulsada()
 
     Rectangle {
-        anchors { fill: parent; leftMargin: estilo.sangriaDeSeleccion; rightMargin: estilo.sangriaDeSeleccion }
+        anchors { fill: parent; leftMargin: Medidas.sangriaDeSeleccion; rightMargin: Medidas.sangriaDeSeleccion }
         visible: fila.seleccionada || zona.containsMouse
-        radius: estilo.radioDeSeleccion
-        color: fila.seleccionada ? estilo.filaSeleccionada : Qt.rgba(1, 1, 1, zona.pressed ? 0.06 : 0.03)
-        border { width: fila.seleccionada ? 1 : 0; color: zona.pressed ? estilo.acento : estilo.contornoDeFila }
+        radius: Medidas.radioDeSeleccion
+        color: fila.seleccionada ? Estilo.filaSeleccionada : zona.pressed ? Estilo.filaAlPulsar : Estilo.filaAlPasar
+        border { width: fila.seleccionada ? Medidas.borde : 0; color: zona.pressed ? Estilo.acento : Estilo.contornoDeFila }
     }
 
     MarcaDeEstado {
-        x: estilo.xDeEstado - width / 2
+        x: Medidas.xDeEstado - width / 2
         anchors.verticalCenter: parent.verticalCenter
         estado: fila.estado
     }
@@ -42,75 +43,70 @@ Item {
     // A line has its height whatever is written: glyphs of other fonts reach neither the line below nor the next row.
     Item {
         id: lineaDeTitulo
-        anchors { left: parent.left; leftMargin: estilo.xDeTitulo; right: letreroDeTiempo.left; rightMargin: 14 }
-        y: 6
-        height: 25
+        anchors { left: parent.left; leftMargin: Medidas.xDeTitulo; right: letreroDeTiempo.left; rightMargin: Medidas.huecoDeFila }
+        y: Medidas.yDeTitulo
+        height: Medidas.altoDeTitulo
         clip: true
 
-        Text {
+        Letrero {
             id: letreroDeTitulo
             width: parent.width
             y: letreroDeTiempo.y + letreroDeTiempo.baselineOffset - lineaDeTitulo.y - baselineOffset
             text: fila.titulo
-            textFormat: Text.PlainText
             maximumLineCount: 1
             elide: Text.ElideRight
             horizontalAlignment: Text.AlignLeft
-            font { pointSize: estilo.letraDeTitulo; weight: Font.Medium }
-            color: estilo.textoAlto
+            font { pointSize: Estilo.letraDeTitulo; weight: Font.Medium }
+            color: Estilo.textoAlto
         }
     }
 
-    Text {
+    Letrero {
         id: letreroDeRuta
         anchors { left: lineaDeTitulo.left; baseline: letreroDeConteo.baseline }
-        width: Math.min(implicitWidth, letreroDeConteo.x - 14 - x - letreroDePalabra.width)
+        width: Math.min(implicitWidth, letreroDeConteo.x - Medidas.huecoDeFila - x - letreroDePalabra.width)
         text: fila.ruta
-        textFormat: Text.PlainText
         maximumLineCount: 1
         elide: Text.ElideMiddle
         horizontalAlignment: Text.AlignLeft
-        font { family: estilo.fija; pointSize: estilo.letraDeRuta }
-        color: estilo.textoTenue
+        font { family: Estilo.fija; pointSize: Estilo.letraDeRuta }
+        color: Estilo.textoTenue
     }
 
-    Text {
+    Letrero {
         id: letreroDePalabra
         anchors.baseline: letreroDeRuta.baseline
         x: letreroDeRuta.x + Math.min(letreroDeRuta.width, letreroDeRuta.contentWidth)
         width: fila.palabra.length > 0 ? implicitWidth : 0
         visible: fila.palabra.length > 0
         text: " · " + fila.palabra
-        textFormat: Text.PlainText
         font: letreroDeRuta.font
-        color: estilo.ember
+        color: Estilo.ember
     }
 
-    Text {
+    Letrero {
         id: letreroDeTiempo
-        anchors { right: parent.right; rightMargin: estilo.margenDerecho }
-        y: 12
+        anchors { right: parent.right; rightMargin: Medidas.margenDerecho }
+        y: Medidas.yDeTiempo
         text: fila.tiempo
-        textFormat: Text.PlainText
-        font.pointSize: estilo.letraDerecha
-        color: estilo.textoTenue
+        font.pointSize: Estilo.letraDerecha
+        color: Estilo.textoTenue
     }
 
-    Text {
+    Letrero {
         id: letreroDeConteo
         anchors { right: letreroDeTiempo.right }
-        y: 30
+        y: Medidas.yDeConteo
         text: fila.conteo
-        textFormat: Text.PlainText
-        font.pointSize: estilo.letraDerecha
-        color: estilo.textoDebil
+        font.pointSize: Estilo.letraDerecha
+        color: Estilo.textoDebil
     }
 
     Rectangle {
         anchors { left: lineaDeTitulo.left; right: letreroDeTiempo.right; bottom: parent.bottom }
-        height: 1
+        height: Medidas.borde
         visible: fila.conLinea
-        color: estilo.lineaFila
+        color: Estilo.lineaFila
     }
 
     MouseArea {
@@ -119,5 +115,7 @@ Item {
         hoverEnabled: true
         onContainsMouseChanged: fila.senalada(containsMouse ? fila.ayuda : "")
         onClicked: fila.pulsada()
+        // Heard, the second click of a double one is none of its own.
+        onDoubleClicked: {}
     }
 }

@@ -1,12 +1,14 @@
 import QtQuick
+import Zorve.Tipos
 
 // Shows that its parent has the keyboard.
 Rectangle {
-    property double separacion: 2
+    readonly property Rectangle cuerpo: parent as Rectangle
+    property double separacion: Medidas.grosorDeFoco
 
     anchors { fill: parent; margins: -separacion }
-    radius: parent.radius + separacion
+    radius: cuerpo.radius + separacion
     color: "transparent"
-    visible: parent.activeFocus
-    border { width: 2; color: estilo.foco }
+    visible: cuerpo.activeFocus
+    border { width: Medidas.grosorDeFoco; color: Estilo.foco }
 }

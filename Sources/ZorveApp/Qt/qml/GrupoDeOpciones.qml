@@ -1,4 +1,5 @@
 import QtQuick
+import Zorve.Tipos
 
 // Options under a caption, or under none.
 Column {
@@ -8,17 +9,26 @@ Column {
     property var opciones: []
     signal elegida(int opcion)
 
-    spacing: 6
+    spacing: Medidas.huecoDeOpciones
     Accessible.role: Accessible.Grouping
     Accessible.name: titulo
+    Keys.onUpPressed: irA(conTeclado() - 1)
+    Keys.onDownPressed: irA(conTeclado() + 1)
 
-    Text {
+    function conTeclado() {
+        for (let cual = 0; cual < filas.count; cual++) if (filas.itemAt(cual).activeFocus) return cual
+        return -1
+    }
+    function irA(cual) {
+        if (cual >= 0 && cual < filas.count) filas.itemAt(cual).forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    Letrero {
         visible: text.length > 0
         text: grupo.titulo
-        textFormat: Text.PlainText
-        bottomPadding: 2
-        font { pointSize: estilo.letraDeRotulo; letterSpacing: 0.8; capitalization: Font.AllUppercase }
-        color: estilo.textoDebil
+        bottomPadding: Medidas.bajoRotulo
+        font { pointSize: Estilo.letraDeRotulo; letterSpacing: Medidas.espacioDeRotulo; capitalization: Font.AllUppercase }
+        color: Estilo.textoDebil
         Accessible.ignored: true
     }
 
@@ -27,20 +37,15 @@ Column {
         model: grupo.opciones.length
         delegate: FilaDeOpcion {
             required property int index
-            readonly property var opcion: grupo.opciones[index]
+            readonly property GrupoDeOpciones suyo: parent as GrupoDeOpciones
+            readonly property var opcion: suyo ? suyo.opciones[index] : null
 
-            function irA(cual) {
-                if (cual >= 0 && cual < filas.count) filas.itemAt(cual).forceActiveFocus(Qt.TabFocusReason)
-            }
-
-            width: grupo.width
+            width: parent.width
             titulo: opcion ? opcion.titulo : ""
             nota: opcion ? opcion.nota : ""
             marcada: opcion ? opcion.marcada : false
             cuadro: opcion ? opcion.cuadro : false
-            onElegida: grupo.elegida(index)
-            Keys.onUpPressed: irA(index - 1)
-            Keys.onDownPressed: irA(index + 1)
+            onElegida: suyo.elegida(index)
         }
     }
 }

@@ -1,36 +1,44 @@
 import QtQuick
-import Zorve.Dibujo
+import Zorve.Tipos
 
 // The rows, or the text that stands in their place. The selected row is always in sight.
 Item {
     id: cuerpo
 
-    // Help for the row under the pointer and where its foot is; empty when there is none.
-    signal ayuda(string texto, double y)
+    // Help for row `de` and where its foot is, when the pointer comes; an empty text when it goes.
+    signal ayuda(Item de, string texto, double y)
     readonly property bool cortada: !lista.atYBeginning
+
+    // A page on (1) or back (-1); the selection stays.
+    function pasarPagina(sentido) {
+        const principio = lista.originY - lista.topMargin
+        const fin = Math.max(principio, lista.originY + lista.contentHeight + lista.bottomMargin - lista.height)
+        const pagina = Math.max(Medidas.altoDeFila, lista.height - Medidas.altoDeFila)
+        lista.contentY = Math.max(principio, Math.min(fin, lista.contentY + sentido * pagina))
+    }
 
     ListView {
         id: lista
         objectName: "filas"
         Accessible.role: Accessible.List
-        Accessible.name: panel.nombreDeLaLista
+        Accessible.name: DatosDelPanel.nombreDeLaLista
         anchors.fill: parent
-        topMargin: 4
-        bottomMargin: 4
-        model: panel.filas
+        topMargin: Medidas.margenDeLista
+        bottomMargin: Medidas.margenDeLista
+        model: DatosDelPanel.filas
         clip: true
         reuseItems: true
-        cacheBuffer: 2 * estilo.altoDeFila
+        cacheBuffer: 2 * Medidas.altoDeFila
         boundsBehavior: Flickable.StopAtBounds
         maximumFlickVelocity: 6000
         currentIndex: -1
         highlightFollowsCurrentItem: false
-        readonly property int seleccion: panel.seleccion
+        readonly property int seleccion: DatosDelPanel.seleccion
         onSeleccionChanged: {
             ponerALaVista()
-            Qt.callLater(leer)
+            lectura.restart()
         }
-        onCountChanged: Qt.callLater(ponerALaVista)
+        onCountChanged: colocacion.restart()
         onHeightChanged: ponerALaVista()
 
         function ponerALaVista() {
@@ -38,8 +46,8 @@ Item {
         }
 
         // Going from row to row has a screen reader read each; typing has it back in the field.
-        readonly property string consulta: panel.consulta
-        onConsultaChanged: Qt.callLater(leer)
+        readonly property string consulta: DatosDelPanel.consulta
+        onConsultaChanged: lectura.restart()
         property string consultaLeida: consulta
         property int filaLeida: -1
         function leer() {
@@ -47,16 +55,20 @@ Item {
             const otraFila = filaLeida >= 0 && seleccion >= 0 && seleccion !== filaLeida
             consultaLeida = consulta
             filaLeida = seleccion
-            if (escrita) panel.leer(Window.activeFocusItem)
-            else if (otraFila) panel.leer(itemAtIndex(seleccion))
+            if (escrita) DatosDelPanel.lecturaPedida(Window.activeFocusItem)
+            else if (otraFila) DatosDelPanel.lecturaPedida(itemAtIndex(seleccion))
         }
 
+        Timer { id: lectura; interval: 0; onTriggered: lista.leer() }
+        Timer { id: colocacion; interval: 0; onTriggered: lista.ponerALaVista() }
+
         delegate: FilaDeSesion {
+            id: fila
             width: ListView.view.width
-            seleccionada: index === lista.seleccion
-            conLinea: index !== lista.seleccion && index + 1 !== lista.seleccion && index + 1 < lista.count
-            onPulsada: panel.clicEnFila(index)
-            onSenalada: texto => cuerpo.ayuda(texto, y - lista.contentY + height)
+            seleccionada: index === DatosDelPanel.seleccion
+            conLinea: index !== DatosDelPanel.seleccion && index + 1 !== DatosDelPanel.seleccion && index + 1 < ListView.view.count
+            onPulsada: DatosDelPanel.filaPulsada(index)
+            onSenalada: texto => cuerpo.ayuda(fila, texto, y - ListView.view.contentY + height)
         }
     }
 
@@ -64,24 +76,21 @@ Item {
 
     Column {
         objectName: "marcador"
-        anchors { centerIn: parent; verticalCenterOffset: -12 }
-        visible: panel.marcador.length > 0
-        spacing: 16
+        anchors { centerIn: parent; verticalCenterOffset: -Medidas.subidaDelMarcador }
+        visible: DatosDelPanel.marcador.length > 0
+        spacing: Medidas.huecoDelMarcador
 
         MarcaDibujada {
             anchors.horizontalCenter: parent.horizontalCenter
-            width: 44; height: 44
-            color: estilo.aroInactivo
+            width: Medidas.ladoDeMarcador; height: width
+            color: Estilo.aroInactivo
             opacity: 0.5
         }
-        Text {
+        LetreroDicho {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: panel.marcador
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
-            textFormat: Text.PlainText
-            font.pointSize: estilo.letraDeTitulo
-            color: estilo.textoTenue
+            text: DatosDelPanel.marcador
+            font.pointSize: Estilo.letraDeTitulo
+            color: Estilo.textoTenue
         }
     }
 }

@@ -1,26 +1,27 @@
 import QtQuick
+import Zorve.Tipos
 
 // The live state: busy a filled dot with a halo, idle a ring, finished a faint ring.
 Item {
     id: marca
 
-    property string estado: "dead"
-    readonly property bool viva: estado !== "dead"
+    property int estado: DatosDelPanel.Acabada
+    readonly property bool viva: estado !== DatosDelPanel.Acabada
 
-    width: 14; height: 14
+    width: Medidas.ladoDeEstado; height: width
 
     Rectangle {
         anchors.fill: parent
         radius: width / 2
-        visible: marca.estado === "busy"
-        color: estilo.haloDeEstado
+        visible: marca.estado === DatosDelPanel.Ocupada
+        color: Estilo.haloDeEstado
     }
 
     Rectangle {
         anchors.centerIn: parent
-        width: 8; height: 8
+        width: Medidas.ladoDePunto; height: width
         radius: width / 2
-        color: marca.estado === "busy" ? estilo.ember : "transparent"
-        border { width: marca.viva ? 2 : 1.25; color: marca.viva ? estilo.ember : estilo.aroInactivo }
+        color: marca.estado === DatosDelPanel.Ocupada ? Estilo.ember : "transparent"
+        border { width: marca.viva ? Medidas.trazoVivo : Medidas.trazoAcabado; color: marca.viva ? Estilo.ember : Estilo.aroInactivo }
     }
 }

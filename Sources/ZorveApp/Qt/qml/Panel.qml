@@ -1,20 +1,30 @@
 import QtQuick
-import Zorve.Dibujo
+import Zorve.Tipos
 
-// The panel's bands, top to bottom. `panel` and `estilo` are its values; `opaco` asks for square, solid glass.
+// The panel's bands, top to bottom. `opaco` asks for square, solid glass.
 Escalado {
     id: raiz
 
     property bool opaco: false
     property double densidad: 0.9
 
-    width: estilo.ancho * estilo.escala
-    height: estilo.alto * estilo.escala
+    Keys.onPressed: evento => {
+        const sentido = evento.key === Qt.Key_PageDown ? 1 : evento.key === Qt.Key_PageUp ? -1 : 0
+        if (sentido === 0) return
+        if (!banda.pasarPagina(sentido)) lista.pasarPagina(sentido)
+        evento.accepted = true
+    }
+
+    width: Medidas.ancho * Estilo.escala
+    height: Medidas.alto * Estilo.escala
+    // As good as opaque, and nothing in it counts as opaque: below what does, the renderer clears the window and paints
+    // nothing, also at the edges where it covers but a part of a pixel.
+    opacity: 0.999
 
     Vidrio {
         anchors.fill: parent
         densidad: raiz.opaco ? 1 : raiz.densidad
-        radio: raiz.opaco ? 0 : estilo.radioDelPanel
+        radio: raiz.opaco ? 0 : Medidas.radioDelPanel
     }
 
     Busqueda {
@@ -31,13 +41,13 @@ Escalado {
 
     Lista {
         id: lista
-        onAyuda: (texto, y) => ayuda.mostrar(texto, lista.y + y - estilo.altoDeFila, lista.y + y)
+        onAyuda: (de, texto, y) => ayuda.mostrar(de, texto, lista.y + y - Medidas.altoDeFila, lista.y + y)
         anchors { left: parent.left; right: parent.right; top: banda.bottom; bottom: pie.top }
     }
 
     Pie {
         id: pie
-        onAyuda: texto => ayuda.mostrar(texto, pie.y - 6, raiz.height)
+        onAyuda: (de, texto) => ayuda.mostrar(de, texto, pie.y - Medidas.ayudaBajoFila, raiz.height)
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
     }
 

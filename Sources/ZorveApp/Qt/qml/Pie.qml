@@ -1,96 +1,90 @@
 import QtQuick
-import Zorve.Dibujo
+import Zorve.Tipos
 
 // The legend of keys, the terminal in use and the way to the settings.
 Item {
     id: pie
 
-    // Help for what is under the pointer; empty when there is none.
-    signal ayuda(string texto)
+    // Help for `de`, when the pointer comes; an empty text when it goes.
+    signal ayuda(Item de, string texto)
 
-    height: estilo.altoDelPie
+    height: Medidas.altoDelPie
 
-    Rectangle {
-        anchors { left: parent.left; right: parent.right; top: parent.top; leftMargin: 1; rightMargin: 1 }
-        height: 1
-        color: estilo.linea
-    }
+    Raya { anchors.top: parent.top }
 
     Row {
         id: leyenda
-        anchors { left: parent.left; leftMargin: 14; verticalCenter: parent.verticalCenter }
-        spacing: 12
+        anchors { left: parent.left; leftMargin: Medidas.margenDelPie; verticalCenter: parent.verticalCenter }
+        spacing: Medidas.huecoDeLeyenda
 
         Repeater {
-            model: panel.leyenda
+            model: DatosDelPanel.leyenda
             delegate: Row {
                 id: entrada
                 required property var modelData
-                spacing: 6
+                spacing: Medidas.huecoDeTecla
                 Tecla {
                     simbolo: entrada.modelData.simbolo
                     texto: entrada.modelData.tecla
                 }
-                Text {
+                Letrero {
                     anchors.verticalCenter: parent.verticalCenter
                     text: entrada.modelData.palabra
-                    textFormat: Text.PlainText
-                    font.pointSize: estilo.letraDelPie
-                    color: estilo.textoTenue
+                    font.pointSize: Estilo.letraDelPie
+                    color: Estilo.textoTenue
                 }
             }
         }
     }
 
-    Text {
+    LetreroDicho {
         id: terminal
-        anchors { left: leyenda.right; leftMargin: 12; right: engranaje.left; rightMargin: 10; verticalCenter: parent.verticalCenter }
-        text: panel.terminal
-        textFormat: Text.PlainText
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
+        objectName: "terminal"
+        anchors { left: leyenda.right; leftMargin: Medidas.huecoDeTerminal; right: engranaje.left; rightMargin: Medidas.huecoDeBoton; verticalCenter: parent.verticalCenter }
+        text: DatosDelPanel.terminal
         elide: Text.ElideRight
-        maximumLineCount: 1
+        wrapMode: Text.WordWrap
+        maximumLineCount: 2
         horizontalAlignment: Text.AlignRight
-        font.pointSize: estilo.letraDelPie
-        color: estilo.textoTenue
+        font.pointSize: Estilo.letraDelPie
+        color: Estilo.textoTenue
 
         MouseArea {
             anchors.fill: parent
             hoverEnabled: terminal.truncated
-            onContainsMouseChanged: pie.ayuda(containsMouse ? terminal.text : "")
+            onContainsMouseChanged: pie.ayuda(terminal, containsMouse ? terminal.text : "")
         }
     }
 
     Item {
         id: engranaje
         objectName: "engranaje"
-        anchors { right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
-        width: 26; height: 26
+        anchors { right: parent.right; rightMargin: Medidas.margenDeBoton; verticalCenter: parent.verticalCenter }
+        width: Medidas.ladoDeBoton; height: width
         Accessible.role: Accessible.Button
-        Accessible.name: panel.nombreAjustes
-        Accessible.description: panel.ayudaAjustes
-        Accessible.onPressAction: panel.clicEnAjustes()
+        Accessible.name: DatosDelPanel.nombreAjustes
+        Accessible.description: DatosDelPanel.ayudaAjustes
+        Accessible.onPressAction: DatosDelPanel.ajustesPedidos()
 
         Rectangle {
             anchors.fill: parent
-            radius: 6
-            color: Qt.rgba(1, 1, 1, zona.pressed ? 0.1 : 0.06)
+            radius: Medidas.radioDeBoton
+            color: zona.pressed ? Estilo.botonAlPulsar : Estilo.botonAlPasar
             visible: zona.containsMouse
         }
         Simbolo {
             anchors.centerIn: parent
-            width: 15; height: 15
-            nombre: "engranaje"
-            grosor: 1.2
-            color: zona.containsMouse ? estilo.textoAlto : estilo.textoTenue
+            width: Medidas.ladoDeEngranaje; height: width
+            forma: Simbolo.Engranaje
+            grosor: Medidas.trazoDeEngranaje
+            color: zona.containsMouse ? Estilo.textoAlto : Estilo.textoTenue
         }
         MouseArea {
             id: zona
             anchors.fill: parent
             hoverEnabled: true
-            onContainsMouseChanged: pie.ayuda(containsMouse ? panel.ayudaAjustes : "")
-            onClicked: panel.clicEnAjustes()
+            onContainsMouseChanged: pie.ayuda(engranaje, containsMouse ? DatosDelPanel.ayudaAjustes : "")
+            onClicked: DatosDelPanel.ajustesPedidos()
         }
     }
 }

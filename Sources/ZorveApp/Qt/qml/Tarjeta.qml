@@ -1,4 +1,5 @@
 import QtQuick
+import Zorve.Tipos
 
 // One message: a tinted card whose text wraps.
 Rectangle {
@@ -7,27 +8,26 @@ Rectangle {
     property string texto
     property bool esError: true
 
-    height: letrero.implicitHeight + 14
-    radius: estilo.radioDeBanda
-    color: esError ? estilo.fondoDeError : estilo.fondoDeAviso
-    border { width: 1; color: Qt.rgba(marca.color.r, marca.color.g, marca.color.b, 0.14) }
+    height: letrero.implicitHeight + 2 * Medidas.margenDeAviso
+    radius: Medidas.radioDeBanda
+    color: esError ? Estilo.fondoDeError : Estilo.fondoDeAviso
+    border { width: Medidas.borde; color: esError ? Estilo.contornoDeError : Estilo.contornoDeAviso }
 
     Rectangle {
         id: marca
-        x: 11; y: 7 + (lineaDePrueba.height - height) / 2
-        width: 6; height: 6; radius: 3
-        color: tarjeta.esError ? estilo.error : estilo.acento
+        x: Medidas.xDePuntoDeAviso; y: Medidas.margenDeAviso + (lineaDePrueba.height - height) / 2
+        width: Medidas.ladoDePuntoDeAviso; height: width; radius: width / 2
+        color: tarjeta.esError ? Estilo.error : Estilo.acento
     }
     FontMetrics { id: lineaDePrueba; font: letrero.font }
 
-    Text {
+    Letrero {
         id: letrero
-        anchors { left: parent.left; leftMargin: 27; right: parent.right; rightMargin: 12; top: parent.top; topMargin: 7 }
+        anchors { left: parent.left; leftMargin: Medidas.xDeAviso; right: parent.right; rightMargin: Medidas.margenDerechoDeAviso; top: parent.top; topMargin: Medidas.margenDeAviso }
         text: tarjeta.texto
-        textFormat: Text.PlainText
         wrapMode: Text.Wrap
-        font.pointSize: estilo.letraDeBanda
-        color: estilo.texto
+        font.pointSize: Estilo.letraDeBanda
+        color: Estilo.texto
         Accessible.role: Accessible.AlertMessage
         Accessible.name: text
     }

@@ -1,34 +1,36 @@
 import QtQuick
-import Zorve.Dibujo
+import Zorve.Tipos
 
 // A key cap with a drawn symbol or a text.
 Rectangle {
-    property string simbolo
-    property string texto
+    id: tecla
 
-    width: (simbolo.length > 0 ? dibujo.width : letrero.implicitWidth) + 12
-    height: 18
-    radius: estilo.radioDeTecla
-    color: estilo.fondoDeTecla
+    property int simbolo: Simbolo.Ninguna
+    property string texto
+    readonly property bool dibujada: simbolo !== Simbolo.Ninguna
+
+    width: (dibujada ? dibujo.width : letrero.implicitWidth) + 2 * Medidas.margenDeTecla
+    height: Medidas.altoDeTecla
+    radius: Medidas.radioDeTecla
+    color: Estilo.fondoDeTecla
     anchors.verticalCenter: parent.verticalCenter
 
     Simbolo {
         id: dibujo
         anchors.centerIn: parent
-        visible: parent.simbolo.length > 0
-        width: parent.simbolo === "flechas" ? 13 : 12
+        visible: tecla.dibujada
+        width: tecla.simbolo === Simbolo.Flechas ? Medidas.ladoDeFlechas : Medidas.ladoDeRetorno
         height: width
-        nombre: parent.simbolo
-        grosor: 1.4
-        color: estilo.texto
+        forma: tecla.simbolo
+        grosor: Medidas.trazoDeTecla
+        color: Estilo.texto
     }
-    Text {
+    Letrero {
         id: letrero
         anchors.centerIn: parent
-        visible: parent.simbolo.length === 0
-        text: parent.texto
-        textFormat: Text.PlainText
-        font.pointSize: estilo.letraDelPie
-        color: estilo.texto
+        visible: !tecla.dibujada
+        text: tecla.texto
+        font.pointSize: Estilo.letraDelPie
+        color: Estilo.texto
     }
 }

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QQmlEngine>
+#include <QQuickPaintedItem>
+
+namespace zorve {
+
+/// The glass behind a window's content: a dark base as dense as `densidad` (in place of the system's blur),
+/// the tint, the light from above and the bright-topped outline. `radio` 0 has square corners.
+class Vidrio : public QQuickPaintedItem {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(double densidad MEMBER densidad_ NOTIFY cambio)
+  Q_PROPERTY(double radio MEMBER radio_ NOTIFY cambio)
+
+ public:
+  explicit Vidrio(QQuickItem* padre = nullptr);
+  void paint(QPainter* pintor) override;
+
+ Q_SIGNALS:
+  void cambio();
+
+ private:
+  double densidad_ = 1;
+  double radio_ = 0;
+};
+
+}  // namespace zorve

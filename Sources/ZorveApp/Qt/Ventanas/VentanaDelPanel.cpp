@@ -1,0 +1,165 @@
+#include "ZorveApp/Qt/Ventanas/VentanaDelPanel.h"
+
+#include <QCursor>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPainterPath>
+#include <QQuickItem>
+#include <utility>
+
+#include "ZorveApp/Estilo.h"
+#include "ZorveApp/Qt/Puentes/TeclasQt.h"
+#include "ZorveApp/Qt/Ventanas/TamanoFijo.h"
+
+namespace zorve {
+
+namespace {
+
+constexpr QSize tamanoDelPanel{static_cast<int>(Medidas::panel.ancho), static_cast<int>(Medidas::panel.alto)};
+constexpr qint64 momento = 400;
+constexpr int alcanceDelIcono = 20;
+
+qint64 milisegundos() {
+  static QElapsedTimer const reloj = [] {
+    QElapsedTimer nuevo;
+    nuevo.start();
+    return nuevo;
+  }();
+  return reloj.elapsed();
+}
+
+/// The panel's outline in native pixels.
+QRegion redonda(QSize tamano, double radio) {
+  QPainterPath forma;
+  forma.addRoundedRect(QRectF{QPointF{0, 0}, tamano}, radio, radio);
+  return QRegion{forma.toFillPolygon().toPolygon()};
+}
+
+QScreen& pantallaDe(QPoint punto) {
+  auto* const pantalla = QGuiApplication::screenAt(punto);
+  return pantalla ? *pantalla : *QGuiApplication::primaryScreen();
+}
+
+}  // namespace
+
+VentanaDelPanel::VentanaDelPanel(SistemaDeVentanas& sistema, std::function<bool(Pulsacion const&)> alPulsar)
+    : sistema_{sistema}, alPulsar_{std::move(alPulsar)} {
+  setTitle(QStringLiteral("Zorve"));
+  setColor(Qt::transparent);
+  setResizeMode(QQuickView::SizeRootObjectToView);
+  escribirEscala(1);
+  setPersistentGraphics(true);
+  setPersistentSceneGraph(true);
+  sistema_.preparar(*this);
+  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &VentanaDelPanel::alCambiarElFoco);
+}
+
+void VentanaDelPanel::preparar() {
+  if (status() != QQuickView::Null) return;
+  setSource(QUrl{QStringLiteral("qrc:/Zorve/Vistas/Panel.qml")});
+  create();
+  vestir();
+}
+
+void VentanaDelPanel::exigirOpaco(bool si) {
+  exigeOpaco_ = si;
+  vestir();
+  if (isVisible()) desenfocar();
+}
+
+void VentanaDelPanel::escribirEscala(double escala) {
+  escala_ = escala;
+  tamano_ = tamanoDelPanel * escala;
+  fijarTamano(*this, tamano_);
+}
+
+void VentanaDelPanel::vestir() {
+  if (!rootObject()) return;
+  rootObject()->setProperty("opaco", exigeOpaco_ || !sistema_.hayTransparencia());
+  rootObject()->setProperty("densidad",
+                            sistema_.hayDesenfoque() ? densidadConDesenfoque : densidadSinDesenfoque);
+}
+
+void VentanaDelPanel::desenfocar() {
+  if (!rootObject()) return;
+  bool const opaca = rootObject()->property("opaco").toBool();
+  auto const escala = devicePixelRatio();
+  auto const forma = redonda((QSizeF{size()} * escala).toSize(), Medidas::radioDelPanel * escala_ * escala);
+  sistema_.desenfocar(*this, !opaca && sistema_.hayDesenfoque() ? forma : QRegion{});
+}
+
+void VentanaDelPanel::colocarEn(std::optional<Ancla> const& ancla) {
+  auto& pantalla = pantallaDe(ancla ? ancla->icono.center() : QCursor::pos());
+  auto const libre = sistema_.areaLibre(pantalla);
+  setScreen(&pantalla);
+  fijarTamano(*this, tamanoQueCabe(tamano_, libre));
+  setPosition(ancla ? colocar(size(), *ancla, pantalla.geometry(), libre) : colocarSinAncla(size(), libre));
+}
+
+void VentanaDelPanel::mostrarEn(std::optional<Ancla> const& ancla, bool conTeclado) {
+  preparar();
+  vestir();
+  if (!isVisible()) colocarEn(ancla);
+  desenfocar();
+  zonaDelIcono_ = ancla ? ancla->icono : QRect{};
+  if (ancla && ancla->soloPunto) {
+    zonaDelIcono_.adjust(-alcanceDelIcono, -alcanceDelIcono, alcanceDelIcono, alcanceDelIcono);
+  }
+  show();
+  raise();
+  if (conTeclado) sistema_.tomarElTeclado(*this);
+  sistema_.vigilarPulsaciones(*this, [this](QPoint donde) { alPulsarFuera(donde); });
+}
+
+void VentanaDelPanel::esconder() {
+  if (!isVisible()) return;
+  sistema_.devolverElTeclado(*this);
+  ocultar();
+}
+
+void VentanaDelPanel::ocultar() {
+  sistema_.vigilarPulsaciones(*this, {});
+  hide();
+  Q_EMIT escondida();
+}
+
+bool VentanaDelPanel::tomarElCierre() {
+  auto const cerrada = std::exchange(cerradaPorFuera_, -1);
+  return cerrada >= 0 && milisegundos() - cerrada < momento;
+}
+
+void VentanaDelPanel::alPulsarFuera(QPoint donde) {
+  if (zonaDelIcono_.contains(donde) || !isVisible()) return;
+  cerradaPorFuera_ = milisegundos();
+  sistema_.soltarElTeclado(*this);
+  ocultar();
+}
+
+void VentanaDelPanel::alCambiarElFoco() {
+  auto const* const foco = QGuiApplication::focusWindow();
+  bool const esUnMenu = foco && foco->type() == Qt::Popup;
+  if (!isVisible() || foco == this || esUnMenu || (!foco && sistema_.tieneElTeclado(*this))) return;
+  cerradaPorFuera_ = milisegundos();
+  esconder();
+}
+
+void VentanaDelPanel::mousePressEvent(QMouseEvent* evento) {
+  if (!sistema_.tieneElTeclado(*this)) sistema_.tomarElTeclado(*this);
+  QQuickView::mousePressEvent(evento);
+}
+
+void VentanaDelPanel::keyPressEvent(QKeyEvent* evento) {
+  if (alPulsar_(aPulsacion(*evento))) {
+    evento->accept();
+    return;
+  }
+  QQuickView::keyPressEvent(evento);
+}
+
+void VentanaDelPanel::closeEvent(QCloseEvent* evento) {
+  esconder();
+  QQuickView::closeEvent(evento);
+}
+
+}  // namespace zorve

@@ -1,9 +1,0 @@
-#include "ZorveCore/Terminal.h"
-
-namespace zorve {
-
-bool Terminal::hospeda(std::string_view command) const {
-  return command.contains("/" + nombreDelBundle() + "/");
-}
-
-}  // namespace zorve
