@@ -91,13 +91,14 @@ TEST_F(Lanzado, loQueNoExisteNoSePuedeEmpezar) {
 }
 
 TEST_F(Lanzado, sinDondeGuardarSusPalabrasNadaSeEmpieza) {
+  auto const lanzamiento = guion(": >$1/empezado");
   rlimit antes{};
   ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &antes), 0);
   int const libre = ::dup(STDERR_FILENO);
   ::close(libre);
   rlimit const ninguno{.rlim_cur = static_cast<rlim_t>(libre), .rlim_max = antes.rlim_max};
   ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &ninguno), 0);
-  auto const fin = lanzar(guion(": >$1/empezado"), mucho);
+  auto const fin = lanzar(lanzamiento, mucho);
   ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &antes), 0);
   ASSERT_FALSE(fin);
   EXPECT_EQ(fin.error().mensaje, "sh could not be started: Too many open files");

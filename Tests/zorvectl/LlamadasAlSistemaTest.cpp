@@ -10,18 +10,13 @@
 
 #include <unistd.h>
 
+#include "Dobles/Saneado.h"
 #include "zorvectl/Hogar.h"
 
 namespace zorve::pruebas {
 namespace {
 
 constexpr char const* strace = "/usr/bin/strace";
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool saneado = true;
-#else
-constexpr bool saneado = false;
-#endif
 
 /// Runs zorvectl under strace over a home that holds secrets beside what it reads.
 class LlamadasAlSistema : public testing::Test {

@@ -14,16 +14,11 @@
 #include <string>
 #include <vector>
 
+#include "Dobles/Saneado.h"
 #include "zorvectl/Hogar.h"
 
 namespace zorve::pruebas {
 namespace {
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool saneado = true;
-#else
-constexpr bool saneado = false;
-#endif
 
 constexpr long cimaEnKilobytes = 150'000;
 
