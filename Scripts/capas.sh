@@ -43,7 +43,12 @@ for carpeta in Sources/ZorvePlatform Sources/ZorvePlatform/*/; do
   prohibe "$carpeta" "${incluye}ZorveApp/" "$carpeta includes more of the application than its seams" "$costuras"
 done
 prohibe Sources/ZorveTerminal "$incluye(ZorveApp|zorvectl)/" 'The helper includes the application'
-prohibe Sources/zorvectl "$incluye(ZorveTerminal|ZorveApp/(Qt|AppKit))/" "zorvectl includes another main's folder"
+prohibe Sources/ZorveX11 "$incluye(ZorveCore|ZorveApp|ZorvePlatform|ZorveTerminal|zorvectl)/" \
+  'ZorveX11 includes another layer'
+for carpeta in Sources/ZorveCore/ Sources/ZorveCore/*/ Sources/ZorveApp Sources/ZorvePlatform/ Sources/ZorvePlatform/*/; do
+  prohibe "$carpeta" "$incluye(ZorveX11)/" "$carpeta asks an X server"
+done
+prohibe Sources/zorvectl "$incluye(ZorveX11|ZorveTerminal|ZorveApp/(Qt|AppKit))/" "zorvectl includes another main's folder"
 for carpeta in Sources/ZorveApp/Qt Sources/ZorveApp/Qt/*/; do
   prohibe "$carpeta" "$incluye(ZorveTerminal|zorvectl|ZorveApp/AppKit|ZorvePlatform/MacOS)/" \
     "$carpeta includes what is not its own"

@@ -52,19 +52,19 @@ std::vector<std::string> argumentosDe(FichaDeTerminal const& ficha,
 
 std::expected<void, FinTemprano> abrir(FichaDeTerminal const& ficha, std::string const& directorio,
                                        std::string const& comando, std::span<std::string const> entorno) {
-  auto const casa = hogarDelUsuario().value_or("/");
-  auto const lugares = EntornoLinux::delProceso(casa);
+  auto const home = hogarDelUsuario().value_or("/");
+  auto const lugares = EntornoLinux::delProceso(home);
   auto const programa = programaDe(ficha, lugares);
   if (programa.empty()) return std::unexpected{FinTemprano{127, ficha.nombre + " is not installed"}};
-  auto const lugar = lugarDePaso(valorEn(entorno, "XDG_RUNTIME_DIR"), casa);
+  auto const lugar = lugarDePaso(valorEn(entorno, "XDG_RUNTIME_DIR"), home);
   CarpetaDePaso carpeta{lugar};
   auto const palabras =
-      palabrasDelGuion({directorio, comando, shellDeLaPersona(entorno), casa}, carpeta, lugar);
+      palabrasDelGuion({directorio, comando, shellDeLaPersona(entorno), home}, carpeta, lugar);
   if (palabras.empty()) return sinCarpeta(lugar);
   Lanzamiento const lanzamiento{.ejecutable = programa,
                                 .args = argumentosDe(ficha, palabras),
                                 .entorno = entornoLimpio(entorno),
-                                .directorio = casa,
+                                .directorio = home,
                                 .senal = senalEn(carpeta)};
   auto const abierta = abrirEnLaQueHay(ficha, lugares, palabras, lanzamiento)
                            ? std::expected<void, FinTemprano>{}

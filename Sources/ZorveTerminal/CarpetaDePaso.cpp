@@ -36,9 +36,9 @@ bool esPropia(std::string const& carpeta) {
 
 }  // namespace
 
-LugarDePaso lugarDePaso(std::string const& deEjecucion, std::string const& casa) {
+LugarDePaso lugarDePaso(std::string const& deEjecucion, std::string const& home) {
   if (esLlana(deEjecucion) && esCarpetaPrivada(deEjecucion)) return {deEjecucion, true};
-  auto const reserva = casa + "/.cache";
+  auto const reserva = home + "/.cache";
   if (esLlana(reserva) && esPropia(reserva)) return {reserva, true};
   return {deTodos, false};
 }

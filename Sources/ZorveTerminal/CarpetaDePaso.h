@@ -15,8 +15,8 @@ struct LugarDePaso {
 };
 
 /// `deEjecucion` (what $XDG_RUNTIME_DIR says) if that is this user's own and closed to others; else the
-/// folder .cache of `casa`, if nobody else can write there; else /tmp, which is sticky.
-[[nodiscard]] LugarDePaso lugarDePaso(std::string const& deEjecucion, std::string const& casa);
+/// folder .cache of `home`, if nobody else can write there; else /tmp, which is sticky.
+[[nodiscard]] LugarDePaso lugarDePaso(std::string const& deEjecucion, std::string const& home);
 
 /// A new folder that is closed to others, removed at the end with what is in it unless it is left.
 class CarpetaDePaso {

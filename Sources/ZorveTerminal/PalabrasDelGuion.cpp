@@ -18,7 +18,7 @@ std::string sinOpciones(std::string const& directorio) {
 std::vector<std::string> palabrasDelGuion(OrdenParaLaShell const& orden, CarpetaDePaso const& carpeta,
                                           LugarDePaso const& lugar) {
   std::string texto = "set --";
-  for (auto const& palabra : {sinOpciones(orden.directorio), orden.shell, orden.casa, carpeta.ruta(),
+  for (auto const& palabra : {sinOpciones(orden.directorio), orden.shell, orden.home, carpeta.ruta(),
                               std::string{lugar.privado ? "privado" : ""}}) {
     texto += " " + palabraDeShell(palabra);
   }

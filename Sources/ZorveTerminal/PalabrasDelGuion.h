@@ -15,7 +15,7 @@ struct OrdenParaLaShell {
   /// Absolute path of the person's shell.
   std::string shell;
   /// The person's home directory, for terminals that change it; or nothing.
-  std::string casa;
+  std::string home;
 };
 
 /// The words of a command that runs the shell piece, which finds its order in `carpeta`, made at `lugar`,

@@ -1,14 +1,14 @@
 #include "ZorveTerminal/VentanasX.h"
 
 #include <xcb/res.h>
-#include <xcb/xcb.h>
 
-#include <cstdlib>
 #include <map>
 #include <optional>
 #include <string_view>
 #include <thread>
 #include <utility>
+
+#include "ZorveX11/X11.h"
 
 namespace zorve::ayudante {
 
@@ -18,7 +18,6 @@ using Reloj = std::chrono::steady_clock;
 
 constexpr std::uint32_t todosLosEscritorios = 0xFFFFFFFFU;
 constexpr std::uint32_t comoUnPaginador = 2;
-constexpr std::uint32_t maximoDePalabras = 16384;
 constexpr std::chrono::milliseconds entreMiradas{20};
 constexpr std::chrono::milliseconds entrePeticiones{500};
 /// How long an active window may be without the keyboard before its word is taken: a program may keep it in a
@@ -28,13 +27,6 @@ constexpr std::chrono::milliseconds esperaDelTeclado{1000};
 constexpr std::chrono::milliseconds firmeza{100};
 constexpr int masHondo = 32;
 
-template <class T>
-struct Liberar {
-  void operator()(T* algo) const { std::free(algo); }  // NOLINT(cppcoreguidelines-no-malloc): xcb's contract
-};
-template <class T>
-using Respuesta = std::unique_ptr<T, Liberar<T>>;
-
 }  // namespace
 
 struct VentanasX::Conexion {
@@ -42,9 +34,7 @@ struct VentanasX::Conexion {
     int pantalla = 0;
     x = xcb_connect(nullptr, &pantalla);
     if (xcb_connection_has_error(x) != 0) return;
-    auto pantallas = xcb_setup_roots_iterator(xcb_get_setup(x));
-    for (; pantalla > 0 && pantallas.rem > 0; --pantalla) xcb_screen_next(&pantallas);
-    if (pantallas.rem > 0) raiz = pantallas.data->root;
+    raiz = X11::raiz(x, pantalla);
   }
   Conexion(Conexion const&) = delete;
   Conexion& operator=(Conexion const&) = delete;
@@ -52,29 +42,15 @@ struct VentanasX::Conexion {
 
   [[nodiscard]] xcb_atom_t atomo(std::string_view nombre) const {
     if (auto const conocido = atomos.find(nombre); conocido != atomos.end()) return conocido->second;
-    auto const pedido = xcb_intern_atom(x, 0, static_cast<std::uint16_t>(nombre.size()), nombre.data());
-    Respuesta<xcb_intern_atom_reply_t> const respuesta{xcb_intern_atom_reply(x, pedido, nullptr)};
-    return atomos[nombre] = respuesta ? respuesta->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
-  }
-
-  /// The property's elements, if they are as wide as T.
-  template <class T>
-  [[nodiscard]] std::vector<T> valores(xcb_window_t ventana, std::string_view nombre) const {
-    auto const pedido =
-        xcb_get_property(x, 0, ventana, atomo(nombre), XCB_GET_PROPERTY_TYPE_ANY, 0, maximoDePalabras);
-    Respuesta<xcb_get_property_reply_t> const respuesta{xcb_get_property_reply(x, pedido, nullptr)};
-    if (!respuesta || respuesta->format != 8 * sizeof(T)) return {};
-    auto const* const datos = static_cast<T const*>(xcb_get_property_value(respuesta.get()));
-    return {datos, datos + respuesta->value_len};
+    return atomos[nombre] = X11::atomoNuevo(x, nombre);
   }
 
   [[nodiscard]] std::string texto(xcb_window_t ventana, std::string_view nombre) const {
-    auto const letras = valores<char>(ventana, nombre);
-    return {letras.begin(), letras.end()};
+    return X11::texto(x, ventana, atomo(nombre));
   }
 
   [[nodiscard]] std::vector<std::uint32_t> numeros(xcb_window_t ventana, std::string_view nombre) const {
-    return valores<std::uint32_t>(ventana, nombre);
+    return X11::numeros(x, ventana, atomo(nombre));
   }
 
   [[nodiscard]] std::optional<std::uint32_t> numero(xcb_window_t ventana, std::string_view nombre) const {
@@ -86,7 +62,7 @@ struct VentanasX::Conexion {
   /// has none. What a window says of itself (_NET_WM_PID) may be a lie.
   [[nodiscard]] pid_t proceso(xcb_window_t ventana) const {
     xcb_res_client_id_spec_t const cual{ventana, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
-    Respuesta<xcb_res_query_client_ids_reply_t> const respuesta{
+    X11::Respuesta<xcb_res_query_client_ids_reply_t> const respuesta{
         xcb_res_query_client_ids_reply(x, xcb_res_query_client_ids(x, 1, &cual), nullptr)};
     if (!respuesta) return 0;
     auto ids = xcb_res_query_client_ids_ids_iterator(respuesta.get());
@@ -107,44 +83,21 @@ struct VentanasX::Conexion {
   /// The server's time, always later than what was given before: a request that carries it wins over a
   /// program that takes the keyboard late, with the time of an older request (ICCCM 4.1.7).
   [[nodiscard]] xcb_timestamp_t hora() const {
-    if (testigo == XCB_WINDOW_NONE) {
-      testigo = xcb_generate_id(x);
-      std::uint32_t const sucesos = XCB_EVENT_MASK_PROPERTY_CHANGE;
-      xcb_create_window(x, 0, testigo, raiz, -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
-                        XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &sucesos);
-    }
+    if (!reloj) reloj.emplace(x, raiz);
     std::this_thread::sleep_for(std::chrono::milliseconds{2});
-    xcb_change_property(x, XCB_PROP_MODE_APPEND, testigo, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 0, nullptr);
-    xcb_flush(x);
-    while (true) {
-      Respuesta<xcb_generic_event_t> const suceso{xcb_wait_for_event(x)};
-      if (!suceso) return XCB_CURRENT_TIME;
-      if ((suceso->response_type & 0x7F) != XCB_PROPERTY_NOTIFY) continue;
-      return reinterpret_cast<xcb_property_notify_event_t const*>(suceso.get())->time;
-    }
+    return reloj->ahora();
   }
 
   void pedir(xcb_window_t ventana, std::string_view nombre, std::uint32_t primero) const {
-    xcb_client_message_event_t mensaje{};
-    mensaje.response_type = XCB_CLIENT_MESSAGE;
-    mensaje.format = 32;
-    mensaje.window = ventana;
-    mensaje.type = atomo(nombre);
-    mensaje.data.data32[0] = primero;
-    mensaje.data.data32[1] = hora();
-    xcb_send_event(x, 0, raiz, XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
-                   reinterpret_cast<char const*>(&mensaje));
-    xcb_flush(x);
+    X11::pedirAlGestor(x, raiz, ventana, atomo(nombre), primero, hora());
   }
 
   /// The keyboard is in the window or in one below it.
   [[nodiscard]] bool tieneElTeclado(xcb_window_t ventana) const {
-    Respuesta<xcb_get_input_focus_reply_t> const foco{
-        xcb_get_input_focus_reply(x, xcb_get_input_focus(x), nullptr)};
-    auto cual = foco ? foco->focus : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
+    auto cual = X11::tecladoEn(x);
     for (int nivel = 0; nivel < masHondo && cual > XCB_INPUT_FOCUS_POINTER_ROOT && cual != raiz; ++nivel) {
       if (cual == ventana) return true;
-      Respuesta<xcb_query_tree_reply_t> const arbol{
+      X11::Respuesta<xcb_query_tree_reply_t> const arbol{
           xcb_query_tree_reply(x, xcb_query_tree(x, cual), nullptr)};
       cual = arbol ? arbol->parent : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
     }
@@ -160,7 +113,7 @@ struct VentanasX::Conexion {
 
   xcb_connection_t* x = nullptr;
   xcb_window_t raiz = XCB_WINDOW_NONE;
-  mutable xcb_window_t testigo = XCB_WINDOW_NONE;
+  mutable std::optional<X11::HoraDelServidor> reloj;
   mutable std::map<std::string_view, xcb_atom_t> atomos;
 };
 

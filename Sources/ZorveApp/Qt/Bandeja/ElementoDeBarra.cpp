@@ -22,8 +22,9 @@ std::optional<bool> barraClaraSegunX11() {
   auto* const conexion = X11::conexion();
   if (!conexion) return std::nullopt;
   auto const bandeja = X11::duenoDe(conexion, "_NET_SYSTEM_TRAY_S0");
-  auto const colores = bandeja == 0 ? std::vector<std::uint32_t>{}
-                                    : X11::propiedad(conexion, bandeja, "_NET_SYSTEM_TRAY_COLORS");
+  auto const colores = bandeja == 0
+                           ? std::vector<std::uint32_t>{}
+                           : X11::numeros(conexion, bandeja, X11::atomo(conexion, "_NET_SYSTEM_TRAY_COLORS"));
   if (colores.size() < 3) return std::nullopt;
   return colores[0] + colores[1] + colores[2] < 3 * 0x8000;
 }

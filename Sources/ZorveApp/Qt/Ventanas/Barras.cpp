@@ -58,9 +58,10 @@ std::vector<QRect> barrasDelEscritorio(xcb_connection_t* conexion, std::uint32_t
       xcb_get_geometry_reply(conexion, xcb_get_geometry(conexion, raiz), nullptr)};
   if (!medida) return {};
   std::vector<QRect> barras;
-  for (auto const ventana : X11::propiedad(conexion, raiz, "_NET_CLIENT_LIST")) {
-    auto const suyas = barrasDePuntal(X11::propiedad(conexion, ventana, "_NET_WM_STRUT_PARTIAL"),
-                                      {medida->width, medida->height});
+  for (auto const ventana : X11::numeros(conexion, raiz, X11::atomo(conexion, "_NET_CLIENT_LIST"))) {
+    auto const suyas =
+        barrasDePuntal(X11::numeros(conexion, ventana, X11::atomo(conexion, "_NET_WM_STRUT_PARTIAL")),
+                       {medida->width, medida->height});
     barras.insert(barras.end(), suyas.begin(), suyas.end());
   }
   return barras;

@@ -26,32 +26,20 @@ xcb_window_t nativa(QWindow const& ventana) { return static_cast<xcb_window_t>(v
 
 }  // namespace
 
-bool SistemaDeVentanasX11::hay() { return X11::conexion() != nullptr; }
-
-SistemaDeVentanasX11::SistemaDeVentanasX11() : conexion_{X11::conexion()}, raiz_{X11::raiz(conexion_)} {
-  auto const* const entrada = xcb_get_extension_data(conexion_, &xcb_input_id);
-  if (entrada && entrada->present != 0) extension_ = entrada->major_opcode;
-  qGuiApp->installNativeEventFilter(this);
-}
-
-SistemaDeVentanasX11::~SistemaDeVentanasX11() {
-  if (qGuiApp) qGuiApp->removeNativeEventFilter(this);
-}
-
-bool SistemaDeVentanasX11::hayTransparencia() const { return X11::duenoDe(conexion_, "_NET_WM_CM_S0") != 0; }
+bool SistemaDeVentanasX11::hayTransparencia() const { return X11::duenoDe(conexion(), "_NET_WM_CM_S0") != 0; }
 
 bool SistemaDeVentanasX11::hayDesenfoque() const {
-  auto const region = X11::atomo(conexion_, regionDesenfocada);
+  auto const region = X11::atomo(conexion(), regionDesenfocada);
   if (region == 0 || !hayTransparencia()) return false;
   X11::Respuesta<xcb_list_properties_reply_t> const lista{
-      xcb_list_properties_reply(conexion_, xcb_list_properties(conexion_, raiz_), nullptr)};
+      xcb_list_properties_reply(conexion(), xcb_list_properties(conexion(), raiz()), nullptr)};
   if (!lista) return false;
   auto const* const atomos = xcb_list_properties_atoms(lista.get());
   return std::find(atomos, atomos + lista->atoms_len, region) != atomos + lista->atoms_len;
 }
 
 void SistemaDeVentanasX11::desenfocar(QWindow& ventana, QRegion const& forma) {
-  auto const region = X11::atomo(conexion_, regionDesenfocada);
+  auto const region = X11::atomo(conexion(), regionDesenfocada);
   if (region == 0) return;
   std::vector<std::uint32_t> numeros;
   for (auto const& trozo : forma) {
@@ -60,16 +48,16 @@ void SistemaDeVentanasX11::desenfocar(QWindow& ventana, QRegion const& forma) {
     }
   }
   if (forma.isEmpty()) {
-    xcb_delete_property(conexion_, nativa(ventana), region);
+    xcb_delete_property(conexion(), nativa(ventana), region);
   } else {
-    xcb_change_property(conexion_, XCB_PROP_MODE_REPLACE, nativa(ventana), region, XCB_ATOM_CARDINAL, 32,
+    xcb_change_property(conexion(), XCB_PROP_MODE_REPLACE, nativa(ventana), region, XCB_ATOM_CARDINAL, 32,
                         static_cast<std::uint32_t>(numeros.size()), numeros.data());
   }
-  xcb_flush(conexion_);
+  xcb_flush(conexion());
 }
 
 QRect SistemaDeVentanasX11::areaLibre(QScreen const& pantalla) const {
-  return sinBarras(pantalla, barrasDelEscritorio(conexion_, raiz_));
+  return sinBarras(pantalla, barrasDelEscritorio(conexion(), raiz()));
 }
 
 void SistemaDeVentanasX11::preparar(QWindow& ventana) {
@@ -77,30 +65,24 @@ void SistemaDeVentanasX11::preparar(QWindow& ventana) {
                    Qt::NoDropShadowWindowHint);
 }
 
-std::uint32_t SistemaDeVentanasX11::duenoDelTeclado() const {
-  X11::Respuesta<xcb_get_input_focus_reply_t> const quien{
-      xcb_get_input_focus_reply(conexion_, xcb_get_input_focus(conexion_), nullptr)};
-  return quien ? quien->focus : 0;
-}
-
 bool SistemaDeVentanasX11::tieneElTeclado(QWindow const& ventana) const {
-  return duenoDelTeclado() == nativa(ventana);
+  return X11::tecladoEn(conexion()) == nativa(ventana);
 }
 
 void SistemaDeVentanasX11::tomarElTeclado(QWindow& ventana) {
-  auto const dueno = duenoDelTeclado();
+  auto const dueno = X11::tecladoEn(conexion());
   if (dueno != nativa(ventana)) anterior_ = dueno;
   darElTeclado(nativa(ventana));
 }
 
 void SistemaDeVentanasX11::darElTeclado(std::uint32_t ventana) {
-  xcb_set_input_focus(conexion_, XCB_INPUT_FOCUS_POINTER_ROOT, ventana, XCB_CURRENT_TIME);
-  xcb_flush(conexion_);
+  xcb_set_input_focus(conexion(), XCB_INPUT_FOCUS_POINTER_ROOT, ventana, XCB_CURRENT_TIME);
+  xcb_flush(conexion());
 }
 
 bool SistemaDeVentanasX11::nadieTieneElTeclado() const {
-  auto const dueno = duenoDelTeclado();
-  return dueno == XCB_NONE || dueno == XCB_INPUT_FOCUS_POINTER_ROOT || dueno == raiz_;
+  auto const dueno = X11::tecladoEn(conexion());
+  return dueno == XCB_NONE || dueno == XCB_INPUT_FOCUS_POINTER_ROOT || dueno == raiz();
 }
 
 void SistemaDeVentanasX11::devolverElTeclado(QWindow& ventana) {
@@ -123,24 +105,19 @@ void SistemaDeVentanasX11::vigilarPulsaciones(QWindow& ventana, std::function<vo
 }
 
 void SistemaDeVentanasX11::escucharPulsaciones(bool si) {
-  if (extension_ == 0) return;
+  if (!hayEntrada()) return;
   struct {
     xcb_input_event_mask_t cabeza;
     std::uint32_t mascara;
   } const pedido{{XCB_INPUT_DEVICE_ALL_MASTER, 1},
                  si ? static_cast<std::uint32_t>(XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS) : 0U};
-  xcb_input_xi_select_events(conexion_, raiz_, 1, &pedido.cabeza);
-  xcb_flush(conexion_);
+  xcb_input_xi_select_events(conexion(), raiz(), 1, &pedido.cabeza);
+  xcb_flush(conexion());
 }
 
-bool SistemaDeVentanasX11::nativeEventFilter(QByteArray const& clase, void* mensaje, qintptr* /*resultado*/) {
-  if (!vigilada_ || clase != "xcb_generic_event_t") return false;
-  auto const* const evento = static_cast<xcb_ge_generic_event_t const*>(mensaje);
-  if ((evento->response_type & 0x7F) != XCB_GE_GENERIC || evento->extension != extension_ ||
-      evento->event_type != XCB_INPUT_RAW_BUTTON_PRESS) {
-    return false;
-  }
-  auto const boton = reinterpret_cast<xcb_input_raw_button_press_event_t const*>(evento)->detail;
+bool SistemaDeVentanasX11::alSuceso(xcb_generic_event_t const& suceso) {
+  if (!vigilada_ || !esDeEntrada(suceso, XCB_INPUT_RAW_BUTTON_PRESS)) return false;
+  auto const boton = reinterpret_cast<xcb_input_raw_button_press_event_t const&>(suceso).detail;
   constexpr std::uint32_t primeroDeRueda = 4;
   constexpr std::uint32_t ultimoDeRueda = 7;
   if (boton < primeroDeRueda || boton > ultimoDeRueda) comprobarPulsacion();
@@ -149,7 +126,7 @@ bool SistemaDeVentanasX11::nativeEventFilter(QByteArray const& clase, void* mens
 
 void SistemaDeVentanasX11::comprobarPulsacion() {
   X11::Respuesta<xcb_query_pointer_reply_t> const donde{
-      xcb_query_pointer_reply(conexion_, xcb_query_pointer(conexion_, nativa(*vigilada_)), nullptr)};
+      xcb_query_pointer_reply(conexion(), xcb_query_pointer(conexion(), nativa(*vigilada_)), nullptr)};
   if (!donde) return;
   auto const tamano = QSizeF{vigilada_->size()} * vigilada_->devicePixelRatio();
   if (QRectF{QPointF{0, 0}, tamano}.contains(donde->win_x, donde->win_y)) return;

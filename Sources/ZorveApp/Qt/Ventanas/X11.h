@@ -1,37 +1,17 @@
 #pragma once
 
-#include <xcb/xcb.h>
-
 #include <QByteArray>
 #include <QPoint>
 #include <QRgb>
 #include <cstdint>
-#include <cstdlib>
-#include <memory>
 #include <optional>
-#include <vector>
+
+#include "ZorveX11/X11.h"
 
 namespace zorve::X11 {
 
-struct Liberar {
-  void operator()(void* respuesta) const { std::free(respuesta); }
-};
-template <class T>
-using Respuesta = std::unique_ptr<T, Liberar>;
-
 /// The toolkit's own connection, or null where the window system is another one.
 [[nodiscard]] xcb_connection_t* conexion();
-[[nodiscard]] xcb_window_t raiz(xcb_connection_t* conexion);
-
-/// 0 for a name that nobody has used on this server.
-[[nodiscard]] xcb_atom_t atomo(xcb_connection_t* conexion, QByteArray const& nombre);
-/// Makes the name known to the server if nobody has.
-[[nodiscard]] xcb_atom_t atomoNuevo(xcb_connection_t* conexion, QByteArray const& nombre);
-[[nodiscard]] xcb_window_t duenoDe(xcb_connection_t* conexion, QByteArray const& seleccion);
-
-/// The 32-bit items of a property; empty when it is absent or of another width.
-[[nodiscard]] std::vector<std::uint32_t> propiedad(xcb_connection_t* conexion, xcb_window_t de,
-                                                   QByteArray const& nombre);
 
 /// The server's time, in milliseconds, asked over a connection of its own; 0 when it does not answer.
 [[nodiscard]] std::uint32_t momentoDelServidor();
