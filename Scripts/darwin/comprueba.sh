@@ -38,7 +38,7 @@ construye() {
   export ZORVE_DARWIN_ARCH=$arch
   [ -f "$carpeta/build.ninja" ] || callado "$carpeta.configure.log" cmake -S . -B "$carpeta" -G Ninja \
     -DCMAKE_TOOLCHAIN_FILE="$PWD/Scripts/darwin/darwin.cmake" -DCMAKE_BUILD_TYPE=None \
-    -DZORVE_SOLO_PORTABLE=ON -DZORVE_TESTS=ON -DZORVE_FUENTES="$base/fuentes" \
+    -DZORVE_SOLO_PORTABLE=ON -DZORVE_TESTS=ON -DZORVE_PCH=ON -DZORVE_FUENTES="$base/fuentes" \
     -DRAPIDJSON_INCLUDE="$base/fuentes/include" -DCLI11_INCLUDE="$base/fuentes/include" \
     -DGTest_DIR="$PWD/Scripts/darwin/gtest"
   cmake --build "$carpeta" --parallel "$(trabajos)" --target "$@" -- -k 0 >"$carpeta.build.log" 2>&1 ||
