@@ -78,8 +78,7 @@ sin_cabecera() {
     base=${base%Linux}
     base=${base%Mac}
     [ -e "Sources/ZorvePlatform/$base.h" ] || printf '%s\n' "$fuente"
-  done < <(find Sources \( -name '*.cpp' -o -name '*.mm' \) ! -name 'main.*' ! -path 'Sources/zorvectl/Orden*' \
-    ! -path 'Sources/zorvectl/OpcionHome.cpp')
+  done < <(find Sources \( -name '*.cpp' -o -name '*.mm' \) ! -name 'main.*' ! -path 'Sources/zorvectl/Orden*')
 }
 dice 'Sources without a header of their name' "$(sin_cabecera)"
 

@@ -7,7 +7,7 @@
 #include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
 #include "zorvectl/BuscarSesion.h"
 #include "zorvectl/Eleccion.h"
-#include "zorvectl/Ordenes.h"
+#include "zorvectl/Opciones.h"
 #include "zorvectl/Salida.h"
 
 namespace zorve::ctl {
@@ -64,13 +64,16 @@ Plan planDe(Contexto const& contexto, Objetivo const& objetivo, TerminalRef cons
 
 std::shared_ptr<Objetivo> agregarObjetivo(CLI::App& orden) {
   auto objetivo = std::make_shared<Objetivo>();
-  orden.add_option("SESSION", objetivo->sesion, "A session's identifier, or a start that only it has")
+  agregarTexto(orden, "SESSION", objetivo->sesion, "A session's identifier, or a start that only it has")
       ->type_name("");
-  orden.add_option("--cwd", objetivo->cwd, "Instead of a session: the directory to open")->type_name("DIR");
-  orden.add_option("--command", objetivo->comando, "The shell command line to run in it")->type_name("LINE");
-  orden.add_option("--tty", objetivo->tty, "Instead of a session: the terminal device to focus")
+  agregarTexto(orden, "--cwd", objetivo->cwd, "Instead of a session: the directory to open")
+      ->type_name("DIR");
+  agregarTexto(orden, "--command", objetivo->comando, "The shell command line to run in it")
+      ->type_name("LINE");
+  agregarTexto(orden, "--tty", objetivo->tty, "Instead of a session: the terminal device to focus")
       ->type_name("TTY");
-  orden.add_option("--terminal", objetivo->terminal, "Another terminal than the resolved one, by identifier")
+  agregarTexto(orden, "--terminal", objetivo->terminal,
+               "Another terminal than the resolved one, by identifier")
       ->type_name("ID");
   agregarOpcionHome(orden, objetivo->home);
   return objetivo;

@@ -1,4 +1,5 @@
 #include "zorvectl/Eleccion.h"
+#include "zorvectl/Opciones.h"
 #include "zorvectl/Ordenes.h"
 #include "zorvectl/Salida.h"
 
@@ -46,8 +47,8 @@ void elegirSegun(Contexto& contexto, Opciones const& opciones) {
 void agregarOrdenChoose(CLI::App& app, Contexto& contexto) {
   auto const opciones = std::make_shared<Opciones>();
   auto* const orden = app.add_subcommand("choose", "Choose the terminal that sessions open in");
-  orden
-      ->add_option("ID", opciones->identificador, "A terminal's identifier, as `zorvectl terminals` lists it")
+  agregarTexto(*orden, "ID", opciones->identificador,
+               "A terminal's identifier, as `zorvectl terminals` lists it")
       ->type_name("");
   orden->add_flag("--auto", opciones->automatica, "Forget the choice: let Zorve pick");
   orden->callback([opciones, &contexto] { elegirSegun(contexto, *opciones); });

@@ -7,6 +7,7 @@
 #include "ZorvePlatform/Posix/Local.h"
 #include "zorvectl/ListaJson.h"
 #include "zorvectl/ListaParaPersonas.h"
+#include "zorvectl/Opciones.h"
 #include "zorvectl/Ordenes.h"
 #include "zorvectl/Salida.h"
 

@@ -13,7 +13,4 @@ void agregarOrdenOpen(CLI::App& app, Contexto& contexto);
 void agregarOrdenTerminals(CLI::App& app, Contexto& contexto);
 void agregarOrdenChoose(CLI::App& app, Contexto& contexto);
 
-/// Adds `--home DIR`, which leaves the directory in `home`.
-void agregarOpcionHome(CLI::App& orden, std::string& home);
-
 }  // namespace zorve::ctl

@@ -23,12 +23,6 @@ NSObject* objetoDe(Preferencias::Valor const& valor) {
 
 }  // namespace
 
-PreferenciasMac::~PreferenciasMac() {
-  @autoreleasepool {
-    [almacen(dominio_) synchronize];
-  }
-}
-
 std::expected<std::optional<Preferencias::Valor>, IndexError> PreferenciasMac::leer(
     std::string const& clave) const {
   @autoreleasepool {
