@@ -41,10 +41,15 @@ corre() {
     "$base.$1.log")"
 }
 
-cli11=$(fuente CLI11-2.7.2-include.tar.gz 0c54813356428b39327a59f5208e221536395640ddbb58bd67c6d398e2993bcb) &&
-  simdjson=$(fuente simdjson-4.6.7-sources.tar.gz \
-    8741dd8a7b30688431fb2872176fd0511f0e3455c3653c0941b366c9c4084059) ||
-  { nota "left out: the core and zorvectl over the current libraries (no sources of them)"; exit 0; }
+sin_fuentes() {
+  nota "left out: the core and zorvectl over the current libraries (no sources of them)"
+  exit 0
+}
+
+cli11=$(fuente CLI11-2.7.2-include.tar.gz 0c54813356428b39327a59f5208e221536395640ddbb58bd67c6d398e2993bcb) ||
+  sin_fuentes
+simdjson=$(fuente simdjson-4.6.7-sources.tar.gz 8741dd8a7b30688431fb2872176fd0511f0e3455c3653c0941b366c9c4084059) ||
+  sin_fuentes
 cli11=$(extrae "$cli11")
 simdjson=$(extrae "$simdjson")
 paquete_de_simdjson "$simdjson"

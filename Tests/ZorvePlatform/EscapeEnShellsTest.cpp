@@ -34,6 +34,12 @@ std::string unidos(std::vector<std::string> const& textos) {
   return todo;
 }
 
+#ifdef __APPLE__
+constexpr char const* utf8 = "en_US.UTF-8";
+#else
+constexpr char const* utf8 = "C.UTF-8";
+#endif
+
 class PalabraDeShell : public testing::TestWithParam<std::pair<char const*, char const*>> {};
 
 TEST_P(PalabraDeShell, sobreviveEnUnaShellDeVerdad) {
@@ -57,10 +63,10 @@ TEST_P(PalabraDeShell, sobreviveComoLineaDeOrdenes) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Escape, PalabraDeShell,
-                         testing::Values(std::pair{"/bin/sh", "C"}, std::pair{"/bin/sh", "C.UTF-8"},
-                                         std::pair{"/bin/bash", "C"}, std::pair{"/bin/bash", "C.UTF-8"},
-                                         std::pair{"/bin/dash", "C.UTF-8"}, std::pair{"/bin/zsh", "C"},
-                                         std::pair{"/bin/zsh", "C.UTF-8"}));
+                         testing::Values(std::pair{"/bin/sh", "C"}, std::pair{"/bin/sh", utf8},
+                                         std::pair{"/bin/bash", "C"}, std::pair{"/bin/bash", utf8},
+                                         std::pair{"/bin/dash", utf8}, std::pair{"/bin/zsh", "C"},
+                                         std::pair{"/bin/zsh", utf8}));
 
 TEST(LiteralDeAppleScript, seLeeTalComoSeEscribio) {
   for (auto const& texto : textosAlAzar()) {

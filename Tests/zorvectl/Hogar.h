@@ -36,7 +36,7 @@ class Hogar {
   [[nodiscard]] dobles::Corrida zorvectl(std::vector<std::string> palabras,
                                          std::map<std::string, std::string> entorno = {}) const {
     palabras.insert(palabras.begin(), ZORVECTL);
-    for (auto const* nombre : {"COLUMNS", "NO_COLOR", "LC_ALL", "LC_CTYPE", "LANG"})
+    for (auto const* nombre : {"COLUMNS", "NO_COLOR", "LC_ALL", "LC_CTYPE", "LANG", "XDG_CONFIG_HOME"})
       entorno.try_emplace(nombre, "");
     entorno.try_emplace("HOME", ruta());
     return dobles::correr(palabras, entorno);

@@ -1,12 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
-
-#include <unistd.h>
-
-#include "zorvectl/Hogar.h"
+#include "zorvectl/MesaDePlanes.h"
 
 namespace zorve::pruebas {
 namespace {
@@ -14,35 +9,6 @@ namespace {
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
-
-class ZorvectlPlan : public testing::Test {
- protected:
-  [[nodiscard]] dobles::Corrida zorvectl(std::vector<std::string> const& palabras) const {
-    return hogar.zorvectl(palabras, {{"XDG_CONFIG_HOME", ""}});
-  }
-  void conSesion(std::string_view id, std::string_view cwd) const {
-    hogar.transcripcion(id, "{}\n");
-    historia += prompt(id, "hola", cwd, 1'700'000'000'000);
-    hogar.historia(historia);
-  }
-  void errorDeUso(std::vector<std::string> const& palabras, std::string const& parte) const {
-    auto const corrida = zorvectl(palabras);
-    EXPECT_EQ(corrida.codigo, 2);
-    EXPECT_EQ(corrida.salida, "");
-    EXPECT_THAT(corrida.error, StartsWith("zorvectl: "));
-    EXPECT_THAT(corrida.error, HasSubstr(parte));
-    EXPECT_EQ(corrida.error.find('\n'), corrida.error.size() - 1);
-  }
-  void falla(std::vector<std::string> const& palabras, std::string const& linea) const {
-    auto const corrida = zorvectl(palabras);
-    EXPECT_EQ(corrida.codigo, 1);
-    EXPECT_EQ(corrida.salida, "");
-    EXPECT_EQ(corrida.error, "zorvectl: " + linea + "\n");
-  }
-
-  Hogar hogar;
-  mutable std::string historia;
-};
 
 TEST_F(ZorvectlPlan, elPlanDeUnaSesionTerminadaEsElDeSuTerminal) {
   conSesion(Hogar::uno, "/srv/it's");
@@ -92,26 +58,6 @@ TEST_F(ZorvectlPlan, unaSesionDesconocidaEsUnFallo) {
         "no session has the identifier zz␛[31m or one that begins so");
 }
 
-/// Runs plan and open, in a session of its own without a terminal, over a live record of the shell itself.
-constexpr char const* preguntarSinTty =
-    "mkdir -p \"$1/.claude/sessions\"\n"
-    "echo '{\"pid\":'$$',\"sessionId\":\"'\"$3\"'\",\"cwd\":\"/v\"}' >\"$1/.claude/sessions/1.json\"\n"
-    "\"$2\" plan 111 --home \"$1\" --terminal com.apple.Terminal --json\n"
-    "\"$2\" plan 111 --home \"$1\" --terminal com.apple.Terminal\n"
-    "\"$2\" open 111 --home \"$1\" --terminal com.apple.Terminal\n";
-
-TEST_F(ZorvectlPlan, unaVivaSinTtyNoSePuedeEnfocar) {
-  conSesion(Hogar::uno, "/v");
-  auto const corrida = dobles::correr({"/usr/bin/setsid", "--wait", "/bin/sh", "-c", preguntarSinTty, "sh",
-                                       hogar.ruta(), ZORVECTL, std::string{Hogar::uno}},
-                                      {{"HOME", hogar.ruta()}});
-  std::string const frase =
-      "The session is alive but has no controlling terminal; there is nowhere to focus.\n";
-  EXPECT_EQ(corrida.salida, "{\"noSePuedeEnfocar\":null}\n" + frase);
-  EXPECT_EQ(corrida.error, "zorvectl: " + frase);
-  EXPECT_EQ(corrida.codigo, 1);
-}
-
 TEST_F(ZorvectlPlan, unDirectorioYUnaLineaDanElPlanDeLaTerminal) {
   auto const corrida =
       zorvectl({"plan", "--cwd", "/a b", "--command", "ls -l", "--terminal", "com.mitchellh.ghostty"});
@@ -126,13 +72,6 @@ TEST_F(ZorvectlPlan, unDirectorioYUnaLineaDanElPlanDeLaTerminal) {
             "       set initial input of configuracion to \"ls -l\" & return\n"
             "       new window with configuration configuracion\n"
             "     end tell\n");
-}
-
-TEST_F(ZorvectlPlan, unaTerminalDeAquiDaSuAyudanteAlLadoDeZorvectl) {
-  auto const corrida = zorvectl({"plan", "--cwd", "/a", "--command", "x", "--terminal", "XTERM", "--json"});
-  std::string const propio{ZORVECTL};
-  EXPECT_EQ(corrida.salida, "{\"comandos\":[{\"ejecutable\":\"" + propio.substr(0, propio.rfind('/')) +
-                                "/zorve-terminal\",\"args\":[\"open\",\"xterm\",\"/a\",\"x\"]}]}\n");
 }
 
 TEST_F(ZorvectlPlan, unTtyDaElPlanDeEnfocar) {
@@ -179,46 +118,6 @@ TEST_F(ZorvectlPlan, unaTerminalDesconocidaEsMalUsoYSeDicenLasConocidas) {
              "com.googlecode.iterm2 com.mitchellh.ghostty com.apple.Terminal");
   errorDeUso({"open", "--tty", "x", "--terminal", ""}, "unknown terminal");
 }
-
-TEST_F(ZorvectlPlan, siLaEleccionNoEstaInstaladaElFalloLoDice) {
-  ASSERT_EQ(zorvectl({"choose", "com.apple.Terminal"}).codigo, 0);
-  auto const corrida = zorvectl({"plan", "--cwd", "/", "--command", "x"});
-  EXPECT_EQ(corrida.codigo, 1);
-  EXPECT_EQ(corrida.salida, "");
-  EXPECT_THAT(corrida.error, StartsWith("zorvectl: "));
-}
-
-TEST_F(ZorvectlPlan, unosAjustesDanadosSeDicenYNoCuentan) {
-  hogar.carpeta().escribir(".config/com.sarnol.zorve/preferences.json", "roto");
-  auto const corrida = zorvectl({"plan", "--cwd", "/", "--command", "x"});
-  EXPECT_THAT(corrida.error, StartsWith("zorvectl: Zorve cannot use its settings in " + hogar.ruta()));
-}
-
-class ZorvectlOpen : public ZorvectlPlan {};
-
-TEST_F(ZorvectlOpen, unProgramaQueNoSePuedeLanzarSeDiceComoEnElPanel) {
-  falla({"open", "--cwd", "/", "--command", "x", "--terminal", "com.apple.Terminal"},
-        "Could not launch /usr/bin/osascript: No such file or directory");
-}
-
-TEST_F(ZorvectlOpen, unAyudanteQueFallaSeDiceConSuCodigoYSuSalida) {
-  auto const corrida =
-      hogar.zorvectl({"open", "--cwd", "/no/hay/tal", "--command", "x", "--terminal", "xterm"},
-                     {{"XDG_CONFIG_HOME", ""}, {"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}});
-  EXPECT_EQ(corrida.codigo, 1);
-  EXPECT_EQ(corrida.salida, "");
-  EXPECT_THAT(corrida.error, HasSubstr("/zorve-terminal exited with code "));
-}
-
-#if !defined(__APPLE__)  // its env(1) ignores no signals
-TEST_F(ZorvectlOpen, quienNoQuiereSaberDeSusHijosTambienSeEnteraDelFallo) {
-  auto const corrida = dobles::correr({"/usr/bin/env", "--ignore-signal=CHLD", ZORVECTL, "open", "--cwd", "/",
-                                       "--command", "x", "--terminal", "xterm"},
-                                      {{"HOME", hogar.ruta()}, {"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}});
-  EXPECT_EQ(corrida.codigo, 1);
-  EXPECT_THAT(corrida.error, HasSubstr("/zorve-terminal exited with code "));
-}
-#endif
 
 TEST_F(ZorvectlOpen, noPoderEnfocarEsUnFallo) {
   falla({"open", "--tty", "/dev/ttys004", "--terminal", "com.mitchellh.ghostty"},

@@ -98,6 +98,7 @@ TEST_F(TranscriptScannerTest, unaCarpetaOcultaSePasaPorAlto) {
   EXPECT_EQ(escaneo(), TranscriptScanner::Resultado{});
 }
 
+#if !defined(__APPLE__)  // whose file systems refuse such names
 TEST_F(TranscriptScannerTest, losNombresQueNoSonUtf8NoEstorban) {
   carpeta.escribir("projects/p/\xff\xfe" + uuid(1).substr(2) + ".jsonl", contenido);
   carpeta.escribir("projects/\xe9t\xe9/" + uuid(2) + ".jsonl", contenido);
@@ -106,6 +107,7 @@ TEST_F(TranscriptScannerTest, losNombresQueNoSonUtf8NoEstorban) {
   EXPECT_EQ(resultado.transcripciones[0].slug, "\xe9t\xe9");
   EXPECT_THAT(resultado.errores, IsEmpty());
 }
+#endif
 
 TEST_F(TranscriptScannerTest, laMasNuevaVaPrimero) {
   for (std::size_t n = 1; n <= 5; ++n) {
