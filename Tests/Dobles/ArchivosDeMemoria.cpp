@@ -36,6 +36,7 @@ struct ArchivosDeMemoria::Nodo {
   Generador generador;
   std::string destino;
   Fecha mtime{};
+  bool oculto = false;
 
   [[nodiscard]] std::int64_t tamano() const {
     if (clase == ClaseDeArchivo::enlace) return static_cast<std::int64_t>(destino.size());
@@ -115,6 +116,11 @@ void ArchivosDeMemoria::quitar(std::string const& ruta) {
 void ArchivosDeMemoria::fallarAlAbrir(std::string const& ruta, int codigo) {
   std::scoped_lock const cerrojo{mutex_};
   fallos_[ruta].abrir = codigo;
+}
+
+void ArchivosDeMemoria::ocultar(std::string const& ruta) {
+  std::scoped_lock const cerrojo{mutex_};
+  nodos_.at(ruta)->oculto = true;
 }
 
 void ArchivosDeMemoria::fallarAtributos(std::string const& ruta, int codigo) {
@@ -207,7 +213,7 @@ std::expected<Atributos, FalloDelSistema> ArchivosDeMemoria::atributos(std::stri
   if (!resuelta) return fallo(resuelta.error());
   if (resuelta->empty()) return Atributos{.clase = ClaseDeArchivo::carpeta};
   auto const& nodo = *nodos_.at(*resuelta);
-  return Atributos{nodo.clase, nodo.tamano(), nodo.mtime};
+  return Atributos{nodo.clase, nodo.tamano(), nodo.mtime, nodo.oculto};
 }
 
 std::expected<std::vector<std::string>, FalloDelSistema> ArchivosDeMemoria::listar(std::string const& ruta) {

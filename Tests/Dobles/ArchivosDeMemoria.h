@@ -40,6 +40,8 @@ class ArchivosDeMemoria final : public Archivos {
   void enlazar(std::string const& ruta, std::string const& destino);
   /// A FIFO, socket or device.
   void especial(std::string const& ruta);
+  /// Flags an entry as not to be shown, as macOS can.
+  void ocultar(std::string const& ruta);
   /// Removes an entry; what is open stays readable.
   void quitar(std::string const& ruta);
 

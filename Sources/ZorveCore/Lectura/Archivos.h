@@ -20,6 +20,8 @@ struct Atributos {
   ClaseDeArchivo clase = ClaseDeArchivo::otra;
   std::int64_t tamanoBytes = 0;
   Fecha mtime{};
+  /// Flagged as not to be shown, as macOS's files may be (UF_HIDDEN, chflags(2)), whatever the name.
+  bool oculto = false;
   bool operator==(Atributos const&) const = default;
 };
 

@@ -48,7 +48,7 @@ struct Candidato {
   std::string const* nombre = nullptr;
 };
 
-/// What became of a candidate. One without size or date has an error alone.
+/// What became of a candidate. One without size or date has an error alone, one flagged hidden has nothing.
 struct Lectura {
   std::optional<Transcript> transcript;
   std::optional<IndexError> error;
@@ -70,7 +70,7 @@ Proyecto listarProyecto(Archivos& archivos, std::string const& raiz, std::string
 bool esCarpetaVisible(Archivos& archivos, std::string const& raiz, std::string const& nombre) {
   if (nombre.starts_with('.')) return false;
   auto const atributos = archivos.atributos(unirRuta(raiz, nombre));
-  return atributos && atributos->clase == ClaseDeArchivo::carpeta;
+  return atributos && atributos->clase == ClaseDeArchivo::carpeta && !atributos->oculto;
 }
 
 std::string_view identificadorDe(std::string_view nombre) { return nombre.substr(0, largoDeUuid); }
@@ -95,6 +95,7 @@ Lectura leerCandidato(Archivos& archivos, LectorDeCabeceras& lector, Candidato c
     lectura.error = {IndexSource::transcripts, "Could not read the size or date of " + ruta};
     return lectura;
   }
+  if (atributos->oculto) return lectura;
   auto cabecera = leerCabecera(archivos, lector, ruta, atributos->tamanoBytes);
   if (!cabecera) lectura.error = fallo("Could not read the ai-title of ", ruta, cabecera.error());
   auto hallada = cabecera ? std::move(*cabecera) : TranscriptScanner::Cabecera{};

@@ -40,6 +40,12 @@ Fecha mtimeDe(struct stat const& estado) {
 #endif
 }
 
+#if defined(__APPLE__)
+bool estaOculto(struct stat const& estado) { return (estado.st_flags & UF_HIDDEN) != 0; }
+#else
+bool estaOculto(struct stat const& /*estado*/) { return false; }
+#endif
+
 class ArchivoPosix final : public ArchivoAbierto {
  public:
   explicit ArchivoPosix(int descriptor) : descriptor_{descriptor} {}
@@ -91,7 +97,7 @@ std::expected<Atributos, FalloDelSistema> ArchivosPosix::atributos(std::string c
   if (tieneNul(ruta)) return fallo(ENOENT);
   struct stat estado{};
   if (::lstat(ruta.c_str(), &estado) != 0) return fallo(errno);
-  return Atributos{claseDe(estado.st_mode), estado.st_size, mtimeDe(estado)};
+  return Atributos{claseDe(estado.st_mode), estado.st_size, mtimeDe(estado), estaOculto(estado)};
 }
 
 std::expected<std::vector<std::string>, FalloDelSistema> ArchivosPosix::listar(std::string const& ruta) {

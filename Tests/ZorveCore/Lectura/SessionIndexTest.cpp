@@ -107,6 +107,31 @@ TEST_F(SessionIndexTest, laHistoriaSeLeeUnaVezPorMuchosHilosQueLean) {
   EXPECT_EQ(std::ranges::count(archivos.abiertos(), donde.history), 1);
 }
 
+/// What is listed of a home in memory with one project of two transcripts, one entry of which is flagged
+/// hidden.
+IndexResult conOculto(std::string const& oculto) {
+  dobles::ArchivosDeMemoria archivos;
+  VidaDeProcesosPosix procesos;
+  auto const donde = SessionIndex::ubicacionesPorDefecto("/h");
+  archivos.escribir(donde.history, "");
+  for (auto const n : {1UZ, 2UZ}) {
+    archivos.escribir(donde.transcripciones + "/p/" + uuid(n) + ".jsonl", "{\"cwd\":\"/x\"}\n");
+  }
+  archivos.ocultar(donde.transcripciones + oculto);
+  return SessionIndex::construir(archivos, procesos, donde);
+}
+
+TEST(SessionIndexOcultos, unaTranscripcionMarcadaComoOcultaSePasaPorAltoSinAviso) {
+  auto const resultado = conOculto("/p/" + uuid(1) + ".jsonl");
+  ASSERT_EQ(resultado.sesiones.size(), 1);
+  EXPECT_EQ(resultado.sesiones[0].sessionId, uuid(2));
+  EXPECT_TRUE(resultado.errores.empty());
+}
+
+TEST(SessionIndexOcultos, unaCarpetaMarcadaComoOcultaSePasaPorAltoSinAviso) {
+  EXPECT_EQ(conOculto("/p"), IndexResult{});
+}
+
 /// A home in memory where reading one file finds no memory left.
 class SinMemoria : public testing::Test {
  protected:
