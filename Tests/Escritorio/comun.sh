@@ -10,7 +10,7 @@ hijos=()
 
 limpia() {
   local estado=$?
-  [ "$estado" -eq 0 ] || cuenta_lo_visto
+  [ "$estado" -eq 0 ] || [ "$estado" -eq 77 ] || cuenta_lo_visto
   termina_hijos
   rm -rf "$casa"
   exit "$estado"
@@ -216,6 +216,8 @@ casos() {
   return "$mal"
 }
 
+# shellcheck source=Tests/Escritorio/comun-salta.sh
+. "$aqui/comun-salta.sh"
 # shellcheck source=Tests/Escritorio/comun-bandejas.sh
 . "$aqui/comun-bandejas.sh"
 # shellcheck source=Tests/Escritorio/comun-sesiones.sh
