@@ -48,3 +48,4 @@ for escala in 1 1.5 2; do
   swaymsg output HEADLESS-1 resolution 1600x1400 scale "$escala" >/dev/null
   recorre
 done
+! grep 'Binding loop' "$casa/zorve.err" || fallo "the views ask for their own sizes in a circle"

@@ -2,8 +2,9 @@
 # shellcheck disable=SC2154 # what comun.sh sets
 # Tray hosts of both kinds, and where the program's icon and menu are in them. Sourced by comun.sh.
 
-# bandeja_xembed [EDGE [MONITOR [OPTIONS...]]]
+# bandeja_xembed [EDGE [MONITOR [OPTIONS...]]]: an XEmbed host, which not every release has.
 bandeja_xembed() {
+  command -v trayer >/dev/null || salta "trayer is not installed, which not every release has"
   arranca trayer trayer --edge "${1:-top}" --align right --widthtype request --heighttype pixel --height 26 \
     --SetDockType true --SetPartialStrut true --transparent false --monitor "${2:-0}" "${@:3}"
   espera con_bandeja_xembed

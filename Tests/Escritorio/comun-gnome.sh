@@ -2,11 +2,8 @@
 # What the tests under GNOME share beside comun.sh: a GNOME Shell of their own without a screen, with keys, clicks and
 # pictures by gnome.py. The shell and the bus are an ordinary user's: root becomes one.
 
-# salta WHY: the test is left out.
-salta() {
-  printf '%s: Skipped\n%s\n' "$0" "$1"
-  exit 77
-}
+# shellcheck source=Tests/Escritorio/comun-salta.sh
+. "$(dirname "${BASH_SOURCE[0]}")/comun-salta.sh"
 [ -z "${solo_con_all:-}" ] || [ "${ZORVE_LARGOS:-no}" = si ] || salta "tests that take long run with --all"
 for programa in gnome-shell Xwayland gdbus; do
   command -v "$programa" >/dev/null || salta "$programa is not installed"

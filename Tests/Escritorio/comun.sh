@@ -10,7 +10,7 @@ hijos=()
 
 limpia() {
   local estado=$?
-  [ "$estado" -eq 0 ] || cuenta_lo_visto
+  [ "$estado" -eq 0 ] || [ "$estado" -eq 77 ] || cuenta_lo_visto
   termina_hijos
   rm -rf "$casa"
   exit "$estado"
@@ -101,9 +101,9 @@ hogar() {
   mkdir -p "$casa/run" "$casa/.config/com.sarnol.zorve"
   chmod 700 "$casa/run"
   export HOME=$casa XDG_CONFIG_HOME=$casa/.config XDG_RUNTIME_DIR=$casa/run XDG_DATA_HOME=$casa/.local/share
-  # No file-sharing service, which would mount a folder in the home.
+  # Not the file-sharing service, which would mount a folder in the home.
   mkdir -p "$XDG_DATA_HOME/dbus-1/services"
-  printf '[D-BUS Service]\nName=org.freedesktop.portal.Documents\nExec=/bin/false\n' \
+  printf '[D-BUS Service]\nName=org.freedesktop.portal.Documents\nExec=%s\n' "$aqui/documentos.py" \
     >"$XDG_DATA_HOME/dbus-1/services/org.freedesktop.portal.Documents.service"
   unset XDG_CURRENT_DESKTOP XDG_SESSION_TYPE WAYLAND_DISPLAY LC_ALL
   export LANG=C.UTF-8
@@ -216,6 +216,8 @@ casos() {
   return "$mal"
 }
 
+# shellcheck source=Tests/Escritorio/comun-salta.sh
+. "$aqui/comun-salta.sh"
 # shellcheck source=Tests/Escritorio/comun-bandejas.sh
 . "$aqui/comun-bandejas.sh"
 # shellcheck source=Tests/Escritorio/comun-sesiones.sh

@@ -26,8 +26,17 @@ std::unexpected<std::string> fallo(std::string_view clave, std::string_view prob
   return std::unexpected{std::move(texto)};
 }
 
+/// What the library says of an error, without the code's name, which newer versions put before it.
+std::string_view explicacion(simdjson::error_code codigo) {
+  constexpr std::string_view deNombres = "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_";
+  std::string_view const texto{simdjson::error_message(codigo)};
+  auto const fin = texto.find(": ");
+  bool const conNombre = fin != std::string_view::npos && texto.find_first_not_of(deNombres) == fin;
+  return conNombre ? texto.substr(fin + 2) : texto;
+}
+
 std::unexpected<std::string> noEsJson(simdjson::error_code codigo) {
-  return std::unexpected{std::string{"not valid JSON: "} + simdjson::error_message(codigo)};
+  return std::unexpected{std::string{"not valid JSON: "}.append(explicacion(codigo))};
 }
 
 unsigned unidadUtf16(char const* digitos) {

@@ -145,6 +145,10 @@ TEST(RegistroJson, loQueNoEsJsonEsIlegible) {
   }
 }
 
+TEST(RegistroJson, elFalloSeDiceIgualConCadaVersionDeLaBiblioteca) {
+  EXPECT_EQ(texto("nada"), "!not valid JSON: Problem while parsing an atom starting with the letter 'n'");
+}
+
 TEST(RegistroJson, soloUnObjetoEsUnRegistro) {
   for (auto const* const json : {"[]", "\"a\"", "1", "null", "true", R"([{"a":"x"}])"}) {
     EXPECT_EQ(texto(json), "!not a JSON object") << json;

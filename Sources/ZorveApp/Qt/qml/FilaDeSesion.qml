@@ -77,9 +77,7 @@ Item {
         id: letreroDePalabra
         anchors.baseline: letreroDeRuta.baseline
         x: letreroDeRuta.x + Math.min(letreroDeRuta.width, letreroDeRuta.contentWidth)
-        width: fila.palabra.length > 0 ? implicitWidth : 0
-        visible: fila.palabra.length > 0
-        text: " · " + fila.palabra
+        text: fila.palabra.length > 0 ? " · " + fila.palabra : ""
         font: letreroDeRuta.font
         color: Estilo.ember
     }

@@ -18,7 +18,7 @@ double luminancia(QColor const& de) {
   return 0.2126 * lineal(de.redF()) + 0.7152 * lineal(de.greenF()) + 0.0722 * lineal(de.blueF());
 }
 double contraste(QColor const& uno, QColor const& otro) {
-  auto const [menor, mayor] = std::minmax(luminancia(uno), luminancia(otro));
+  auto const [menor, mayor] = std::minmax({luminancia(uno), luminancia(otro)});
   return (mayor + 0.05) / (menor + 0.05);
 }
 
