@@ -1,12 +1,15 @@
 #!/usr/bin/env bash
-# With the tray at each edge the panel stands beside the bar and wholly on the free part of the screen.
+# The tray at each edge of the screen: the panel stands beside the bar and wholly on the free part.
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
-escritorio lista
-zorve
-for borde in top bottom left right; do
-  bandeja_xembed "$borde"
-  bandeja=$ultimo
+
+# en_el_borde EDGE LEFT TOP RIGHT BOTTOM: the bar there; the panel is within the free part that is named. Then its
+# place is in x, y, ancho and alto.
+en_el_borde() {
+  local cx cy
+  escritorio lista
+  zorve
+  bandeja_xembed "$1"
   espera hay_icono_xembed
   espera hay_color "$(icono_xembed)" '#0c161b' 40x40+0+0
   read -r cx cy < <(centro "$(icono_xembed)")
@@ -14,31 +17,41 @@ for borde in top bottom left right; do
   espera panel_visible
   espera panel_con_teclado
   read -r x y ancho alto < <(lugar "$(panel)")
-  case "$borde" in
-  top) libre="0 26 1280 800" ;;
-  bottom) libre="0 0 1280 774" ;;
-  left) libre="24 0 1280 800" ;;
-  right) libre="0 0 1256 800" ;;
-  esac
-  read -r l a r b <<<"$libre"
-  ((x >= l && y >= a && x + ancho <= r && y + alto <= b)) ||
-    fallo "$borde: the panel at $x,$y leaves the free part $libre"
-  case "$borde" in
-  top) [ "$y" -le 40 ] ;;
-  bottom) [ $((y + alto)) -ge 760 ] ;;
-  left) [ "$x" -le 45 ] ;;
-  right) [ $((x + ancho)) -ge 1235 ] ;;
-  esac || fallo "$borde: the panel at $x,$y is not beside the bar"
-  xdotool key Escape
-  espera no panel_visible
-  kill "$bandeja"
-  espera no con_bandeja_xembed
-done
-# The same for a StatusNotifier host, which does not tell where its icon is.
-barra_sn 8
-espera hay_icono_sn
-read -r cx cy < <(centro "$(casilla_sn)")
-pulsa_en "$cx" "$cy"
-espera panel_con_teclado
-read -r x y _ alto < <(lugar "$(panel)")
-((x >= 0 && y >= 0 && y + alto <= 773 && y + alto >= 755)) || fallo "the panel at $x,$y is not above the bar"
+  ((x >= $2 && y >= $3 && x + ancho <= $4 && y + alto <= $5)) || fallo "the panel at $x,$y leaves the free part $*"
+}
+no_esta_al_lado() { fallo "the panel at $x,$y is not beside the bar"; }
+
+prueba_arribaQuedaDebajoDeLaBarra() {
+  en_el_borde top 0 26 1280 800
+  ((y <= 40)) || no_esta_al_lado
+}
+
+prueba_abajoQuedaEncimaDeLaBarra() {
+  en_el_borde bottom 0 0 1280 774
+  ((y + alto >= 760)) || no_esta_al_lado
+}
+
+prueba_aLaIzquierdaQuedaASuDerecha() {
+  en_el_borde left 24 0 1280 800
+  ((x <= 45)) || no_esta_al_lado
+}
+
+prueba_aLaDerechaQuedaASuIzquierda() {
+  en_el_borde right 0 0 1256 800
+  ((x + ancho >= 1235)) || no_esta_al_lado
+}
+
+prueba_sobreUnaBarraDeElementosQueNoDiceDondeEstaElIcono() {
+  local cx cy
+  escritorio lista
+  zorve
+  barra_sn 8
+  espera hay_icono_sn
+  read -r cx cy < <(centro "$(casilla_sn)")
+  pulsa_en "$cx" "$cy"
+  espera panel_con_teclado
+  read -r x y _ alto < <(lugar "$(panel)")
+  ((x >= 0 && y >= 0 && y + alto <= 773 && y + alto >= 755)) || fallo "the panel at $x,$y is not above the bar"
+}
+
+casos "$@"

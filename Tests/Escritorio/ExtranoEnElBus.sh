@@ -1,30 +1,28 @@
 #!/usr/bin/env bash
-# Whoever calls Activate without a leave gets the panel shown, and the keyboard stays where somebody types; a press in
-# the panel takes it. Where another program has Zorve's name on the bus, a start says so and tells it nothing.
+# Programs on the bus that nobody invited: one that calls Activate, one that has taken the program's name.
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
-escritorio lista
-# shellcheck disable=SC2016 # the shell in the window expands it
-arranca escribe xterm -geometry 40x8+40+700 -e sh -c 'while read -r linea; do echo "$linea" >>"$0"; done' "$casa/escrito"
-con_teclado() { xprop -id "$(xdotool getactivewindow)" WM_CLASS 2>/dev/null | grep -q XTerm; }
-espera con_teclado
-zorve
-gdbus call --session --dest com.sarnol.zorve --object-path /com/sarnol/zorve \
-  --method org.freedesktop.Application.Activate '{}' >/dev/null
-espera panel_visible
-xdotool type hola
-xdotool key Return
+con_teclado_una_xterm() { xprop -id "$(xdotool getactivewindow)" WM_CLASS 2>/dev/null | grep -q XTerm; }
 llego() { grep -qx hola "$casa/escrito"; }
-espera llego
-segundo
-espera panel_visible
-xdotool key Escape
-espera no panel_visible
-kill "$zorve_pid"
-espera terminado "$zorve_pid"
 
-cat >"$casa/ajeno.py" <<'FIN'
-import gi, sys
+prueba_activateSinPermisoMuestraElPanelYDejaElTecladoDondeSeEscribe() {
+  escritorio lista
+  # shellcheck disable=SC2016 # the shell in the window expands it
+  arranca escribe xterm -geometry 40x8+40+700 -e sh -c 'while read -r linea; do echo "$linea" >>"$0"; done' "$casa/escrito"
+  espera con_teclado_una_xterm
+  zorve
+  gdbus call --session --dest com.sarnol.zorve --object-path /com/sarnol/zorve \
+    --method org.freedesktop.Application.Activate '{}' >/dev/null
+  espera panel_visible
+  xdotool type hola
+  xdotool key Return
+  espera llego
+}
+
+# otro_con_el_nombre: a program that is not ours has the name and says in $casa/ajeno when it is called.
+otro_con_el_nombre() {
+  cat >"$casa/ajeno.py" <<'FIN'
+import gi
 gi.require_version("Gio", "2.0")
 from gi.repository import Gio, GLib
 bus = Gio.bus_get_sync(Gio.BusType.SESSION)
@@ -38,10 +36,17 @@ bus.register_object("/com/sarnol/zorve", nodo.interfaces[0], llamada, None, None
 Gio.bus_own_name_on_connection(bus, "com.sarnol.zorve", Gio.BusNameOwnerFlags.NONE, lambda *_: print("owned", flush=True), None)
 GLib.MainLoop().run()
 FIN
-/usr/bin/python3 "$casa/ajeno.py" >"$casa/ajeno" 2>&1 &
-hijos+=($!)
-suyo() { grep -q owned "$casa/ajeno"; }
-espera suyo
-! DESKTOP_STARTUP_ID=secreto_TIME1 "$bin/zorve" 2>"$casa/ajeno.err" || fallo "a start takes a stranger for itself"
-grep -q 'another program has the name' "$casa/ajeno.err" || fallo "the start says: $(cat "$casa/ajeno.err")"
-! grep -q called "$casa/ajeno" || fallo "the stranger was given the leave"
+  /usr/bin/python3 "$casa/ajeno.py" >"$casa/ajeno" 2>&1 &
+  hijos+=($!)
+  espera grep -q owned "$casa/ajeno"
+}
+
+prueba_unNombreAjenoSeDiceYNoRecibeElPermisoDelClic() {
+  escritorio lista
+  otro_con_el_nombre
+  ! DESKTOP_STARTUP_ID=secreto_TIME1 "$bin/zorve" 2>"$casa/ajeno.err" || fallo "a start takes a stranger for itself"
+  grep -q 'another program has the name' "$casa/ajeno.err" || fallo "the start says: $(cat "$casa/ajeno.err")"
+  ! grep -q called "$casa/ajeno" || fallo "the stranger was given the leave"
+}
+
+casos "$@"

@@ -1,12 +1,9 @@
 #!/usr/bin/env bash
-# A change of language is seen at once in the settings, in the tray's menu, in the panel, and after the next start.
+# A change of language is seen at once everywhere, and after the next start.
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
 # shellcheck source=Tests/Escritorio/comun-gustos.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun-gustos.sh"
-escritorio vacia
-lector
-barra_sn 6
 # Where the icon is on the bus: its service and its path.
 busca_el_icono() {
   espera hay_icono_sn
@@ -23,29 +20,61 @@ menu_del_icono() {
 }
 menu_dice() { menu_del_icono | grep -F -- "$1"; }
 ayuda_dice() { propiedad ToolTip | grep -F -- "$1"; }
-en_ingles() { espera menu_dice 'Settings…' && espera menu_dice 'Quit Zorve' && espera ayuda_dice "'Zorve'"; }
-en_espanol() { espera menu_dice 'Ajustes…' && espera menu_dice 'Salir de Zorve' && espera ayuda_dice "'Zorve'"; }
 
-zorve
-busca_el_icono
-en_ingles
-muestra
-espera dice_algo 'label "no sessions"'
-xdotool key ctrl+comma
-espera ajustes
-espera dice 'panel "STARTUP"'
-pulsa_opcion Español
-espera dice 'panel "INICIO"'
-espera dice 'page tab "Acerca de" [focusable selectable]'
-en_espanol
-xdotool key Escape
-espera no ajustes
-muestra
-espera dice_algo 'label "sin sesiones"'
-espera dice_algo 'push button "Ajustes" \(Ajustes \(Ctrl\+,\)\)'
-xdotool key ctrl+q
-espera terminado "$zorve_pid"
+con_ajustes() {
+  escritorio vacia
+  lector
+  barra_sn 6
+  zorve
+  muestra
+  xdotool key ctrl+comma
+  espera dice 'panel "STARTUP"'
+}
+a_espanol() {
+  con_ajustes
+  pulsa_opcion Español
+  espera dice 'panel "INICIO"'
+}
 
-zorve
-busca_el_icono
-en_espanol
+prueba_primeroTodoEstaEnIngles() {
+  con_ajustes
+  busca_el_icono
+  espera menu_dice 'Settings…'
+  espera menu_dice 'Quit Zorve'
+  espera ayuda_dice "'Zorve'"
+}
+
+prueba_losAjustesCambianEnElActo() {
+  a_espanol
+  espera dice 'page tab "Acerca de" [focusable selectable]'
+}
+
+prueba_elMenuDelIconoCambiaEnElActo() {
+  a_espanol
+  busca_el_icono
+  espera menu_dice 'Ajustes…'
+  espera menu_dice 'Salir de Zorve'
+}
+
+prueba_elPanelLoMuestraAlVolver() {
+  a_espanol
+  xdotool key Escape
+  espera no ajustes
+  muestra
+  espera dice_algo 'label "sin sesiones"'
+  espera dice_algo 'push button "Ajustes" \(Ajustes \(Ctrl\+,\)\)'
+}
+
+prueba_elSiguienteArranqueLoRecuerda() {
+  a_espanol
+  xdotool key Escape
+  espera no ajustes
+  muestra
+  xdotool key ctrl+q
+  espera terminado "$zorve_pid"
+  zorve
+  busca_el_icono
+  espera menu_dice 'Ajustes…'
+}
+
+casos "$@"

@@ -66,17 +66,6 @@ menu_sn() {
   done
   return 1
 }
-# Its settings daemon ends too: it would not read the next bar's file.
-quita_barra_sn() {
-  local ajustador
-  ajustador=$(gdbus call --session --dest org.freedesktop.DBus --object-path /org/freedesktop/DBus \
-    --method org.freedesktop.DBus.GetConnectionUnixProcessID org.xfce.Xfconf | grep -oE '[0-9]+' | tail -n 1)
-  kill "$barra"
-  espera terminado "$barra"
-  kill "$ajustador"
-  espera terminado "$ajustador"
-  espera no tiene_nombre org.kde.StatusNotifierWatcher
-}
 # The items that the host knows: the bus name and the path of each.
 elementos_sn() {
   dbus-send --session --print-reply --dest=org.kde.StatusNotifierWatcher /StatusNotifierWatcher \
