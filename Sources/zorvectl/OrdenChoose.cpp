@@ -31,7 +31,7 @@ void elegirUna(Contexto& contexto, ServiciosDeTerminal const& servicios, std::st
   }
 }
 
-void elegirSegun(Contexto& contexto, Opciones const& opciones) {
+void elegirLoPedido(Contexto& contexto, Opciones const& opciones) {
   if (opciones.identificador.has_value() == opciones.automatica) {
     return terminarCon(contexto, Contexto::malUso, "name one thing: ID or --auto");
   }
@@ -51,7 +51,7 @@ void agregarOrdenChoose(CLI::App& app, Contexto& contexto) {
                "A terminal's identifier, as `zorvectl terminals` lists it")
       ->type_name("");
   orden->add_flag("--auto", opciones->automatica, "Forget the choice: let Zorve pick");
-  orden->callback([opciones, &contexto] { elegirSegun(contexto, *opciones); });
+  orden->callback([opciones, &contexto] { elegirLoPedido(contexto, *opciones); });
 }
 
 }  // namespace zorve::ctl

@@ -8,7 +8,7 @@ namespace zorve {
 
 namespace {
 
-std::expected<void, std::string> segun(BOOL bien, NSError* fallo) {
+std::expected<void, std::string> resultadoDe(BOOL bien, NSError* fallo) {
   if (bien) return {};
   return std::unexpected{textoDe(fallo.localizedDescription)};
 }
@@ -22,13 +22,13 @@ bool InicioDeSesionMac::activo() const {
 std::expected<void, std::string> InicioDeSesionMac::registrar() {
   NSError* fallo = nil;
   BOOL const bien = [SMAppService.mainAppService registerAndReturnError:&fallo];
-  return segun(bien, fallo);
+  return resultadoDe(bien, fallo);
 }
 
 std::expected<void, std::string> InicioDeSesionMac::retirar() {
   NSError* fallo = nil;
   BOOL const bien = [SMAppService.mainAppService unregisterAndReturnError:&fallo];
-  return segun(bien, fallo);
+  return resultadoDe(bien, fallo);
 }
 
 }  // namespace zorve

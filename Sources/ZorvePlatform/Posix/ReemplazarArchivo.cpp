@@ -18,7 +18,7 @@ namespace {
 
 using Resultado = std::expected<void, FalloDelSistema>;
 
-Resultado segun(bool bien) {
+Resultado errnoSiNo(bool bien) {
   if (bien) return {};
   return std::unexpected{FalloDelSistema::deErrno(errno)};
 }
@@ -36,12 +36,12 @@ std::expected<std::filesystem::path, FalloDelSistema> destinoDe(std::filesystem:
 }
 
 Resultado llenar(int descriptor, std::string_view contenido) {
-  if (::fcntl(descriptor, F_SETFD, FD_CLOEXEC) != 0) return segun(false);
-  if (::fchmod(descriptor, S_IRUSR | S_IWUSR) != 0) return segun(false);
+  if (::fcntl(descriptor, F_SETFD, FD_CLOEXEC) != 0) return errnoSiNo(false);
+  if (::fchmod(descriptor, S_IRUSR | S_IWUSR) != 0) return errnoSiNo(false);
   if (int const codigo = escribirTodo(descriptor, contenido); codigo != 0) {
     return std::unexpected{FalloDelSistema::deErrno(codigo)};
   }
-  return segun(::fsync(descriptor) == 0);
+  return errnoSiNo(::fsync(descriptor) == 0);
 }
 
 /// So that the new name survives a crash; a folder that cannot be synchronised is no failure.
@@ -57,9 +57,9 @@ std::expected<void, FalloDelSistema> reemplazarArchivo(std::string const& ruta, 
   if (!destino) return std::unexpected{destino.error()};
   auto temporal = destino->string() + ".XXXXXX";
   Descriptor const descriptor{::mkstemp(temporal.data())};
-  if (!descriptor) return segun(false);
+  if (!descriptor) return errnoSiNo(false);
   auto resultado = llenar(descriptor.numero(), contenido);
-  if (resultado) resultado = segun(std::rename(temporal.c_str(), destino->c_str()) == 0);
+  if (resultado) resultado = errnoSiNo(std::rename(temporal.c_str(), destino->c_str()) == 0);
   if (!resultado) ::unlink(temporal.c_str());
   if (resultado) sincronizarCarpeta(destino->parent_path());
   return resultado;
