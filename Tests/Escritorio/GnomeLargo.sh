@@ -10,10 +10,13 @@ escritorio_gnome vacia "$uuid"
 espera tiene_nombre com.sarnol.zorve.Windows
 agente
 
-# abre TERMINAL NAME: a window of it, with the stand-in.
+# abre TERMINAL NAME: a window of it, seen, with the stand-in.
 abre() {
+  base
   "$bin/zorve-terminal" open "$1" "$casa" "'$casa/bin/claude' $2" || fallo "$1 does not open"
   espera test -s "$casa/teclas/$2.pid"
+  espera cambiado 1280x760+0+33
+  base
 }
 # cierra NAME: what led the stand-in's terminal device ends.
 cierra() {

@@ -11,7 +11,7 @@ REMOTE = "org.gnome.Mutter.RemoteDesktop"
 SHOTS = "org.gnome.Shell.Screenshot"
 BUTTONS = {"left": 0x110, "right": 0x111, "middle": 0x112}
 CODES = {"esc": 1, "minus": 12, "backspace": 14, "tab": 15, "return": 28, "ctrl": 29, "shift": 42, "comma": 51, "dot": 52,
-         "slash": 53, "alt": 56, "space": 57, "up": 103, "left": 105, "right": 106, "down": 108, "super": 125}
+         "slash": 53, "alt": 56, "space": 57, "home": 102, "up": 103, "left": 105, "right": 106, "down": 108, "super": 125}
 CODES |= {str((i + 1) % 10): 2 + i for i in range(10)}
 for row, first in (("qwertyuiop", 16), ("asdfghjkl", 30), ("zxcvbnm", 44)):
     CODES |= {letter: first + i for i, letter in enumerate(row)}
