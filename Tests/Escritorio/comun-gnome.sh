@@ -81,7 +81,7 @@ mando() {
   responde || fallo "the driver does not answer: $*"
 }
 
-# By the shell itself: newer ones show it to X11 programs only while one of these has the keyboard.
+# Asked of the shell: newer ones leave X11 programs without an answer while a Wayland window has the keyboard.
 portapapeles_es() {
   mando paste "$casa/copiado"
   [ "$(cat "$casa/copiado")" = "$1" ]
