@@ -41,6 +41,7 @@ barra_sn() {
 </channel>
 FIN
   NO_AT_BRIDGE=1 arranca barra xfce4-panel --disable-wm-check
+  # shellcheck disable=SC2034 # the tests read it
   barra=$ultimo
   espera tiene_nombre org.kde.StatusNotifierWatcher
 }

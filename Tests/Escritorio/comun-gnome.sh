@@ -143,6 +143,7 @@ cambiado() {
   awk -F'[x+]' -v o="$area" 'BEGIN { split(o, a, /[x+]/) } { printf "%dx%d+%d+%d\n", $1, $2, $3 + a[3], $4 + a[4] }' <<<"$caja"
 }
 # The right of the shell's bar.
+# shellcheck disable=SC2034 # the tests read it
 barra=580x27+700+0
 # centro_de WxH+X+Y: x y
 centro_de() { awk -F'[x+]' '{ print int($3 + $1 / 2), int($4 + $2 / 2) }' <<<"$1"; }
