@@ -47,12 +47,14 @@ foto() {
 
 foto_translucida() { foto translucido; }
 
-# Twice the rounding of eight bits; a hole is five times as far off.
+# Twice the rounding of eight bits; a hole is five times as far off. Counted by hand: newer versions of compare sum up
+# how far pixels differ instead.
 iguales() {
   local distintos
   foto_translucida
   foto opaco
-  distintos=$(compare -metric AE -fuzz 1.2% "$casa/translucido.ppm" "$casa/opaco.ppm" null: 2>&1) || :
+  distintos=$(convert "$casa/translucido.ppm" "$casa/opaco.ppm" -compose difference -composite -separate \
+    -evaluate-sequence max -threshold 1.2% -format '%[fx:round(mean*w*h)]' info:)
   echo "$distintos" >"$casa/distintos"
   [ "$distintos" = 0 ]
 }

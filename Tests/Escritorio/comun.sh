@@ -182,7 +182,7 @@ centro() {
 }
 pulsa_en() { xdotool mousemove "$1" "$2" click "${3:-1}"; }
 
-portapapeles() { xclip -selection clipboard -o; }
+portapapeles() { timeout 2 xclip -selection clipboard -o; }
 portapapeles_es() { [ "$(portapapeles)" = "$1" ]; }
 
 # cuantos_pixeles WINDOW COLOUR AREA: how many pixels of AREA (WxH+X+Y) are of about this colour.

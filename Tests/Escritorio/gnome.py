@@ -1,7 +1,10 @@
 #!/usr/bin/python3
 """Keys, clicks and pictures of a headless GNOME session, one order a line on standard input; each is answered with
-"ok" or what went wrong. Orders: key COMBINATION..., type TEXT, move X Y, click [left|right|middle], double, shot FILE."""
+"ok" or what went wrong. Orders: key COMBINATION..., type TEXT, move X Y, click [left|right|middle], double, shot FILE,
+paste FILE (the clipboard's text, empty where it has none)."""
 
+import os
+import pathlib
 import sys
 import time
 
@@ -28,6 +31,7 @@ class Session:
                   GLib.Variant("(su)", ("org.gnome.Screenshot", 4)))
         self.path = self.call(REMOTE, "/org/gnome/Mutter/RemoteDesktop", REMOTE, "CreateSession", None)[0]
         self.notify("Start", None)
+        self.notify("EnableClipboard", "(a{sv})", {})
 
     def call(self, name, path, interface, method, arguments):
         return self.bus.call_sync(name, path, interface, method, arguments, None, Gio.DBusCallFlags.NONE, 20000, None)
@@ -65,6 +69,21 @@ class Session:
 
     def shot(self, file):
         self.call(SHOTS, "/org/gnome/Shell/Screenshot", SHOTS, "Screenshot", GLib.Variant("(bbs)", (False, False, file)))
+
+    def paste(self, file):
+        pathlib.Path(file).write_bytes(self.clipboard())
+
+    def clipboard(self):
+        arguments = GLib.Variant("(s)", ("text/plain;charset=utf-8",))
+        try:
+            answer, files = self.bus.call_with_unix_fd_list_sync(
+                REMOTE, self.path, REMOTE + ".Session", "SelectionRead", arguments, None, Gio.DBusCallFlags.NONE, 20000,
+                None, None)
+        except GLib.Error:  # it has no such text
+            return b""
+        with open(files.get(answer[0]), "rb") as pipe:
+            os.set_blocking(pipe.fileno(), True)
+            return pipe.read()
 
     def obey(self, line):
         order, _, rest = line.partition(" ")
