@@ -13,11 +13,15 @@ PreferenciaDeIdioma::PreferenciaDeIdioma(Preferencias& preferencias, VocesDelSis
       voces_{voces},
       idioma_{idiomaGuardado(textoGuardado(preferencias, std::string{clave}).value_or(""))} {}
 
-std::expected<void, IndexError> PreferenciaDeIdioma::elegir(Idioma nuevo) {
-  if (nuevo == *idioma_) return {};
-  auto guardado = preferencias_.escribir(std::string{clave}, std::string{textoCrudo(nuevo)});
-  idioma_.escribir(nuevo);
-  return guardado;
+std::function<std::expected<void, IndexError>()> PreferenciaDeIdioma::elegir(Idioma nuevo) {
+  bool const esOtro = idioma_.escribir(nuevo);
+  return [&preferencias = preferencias_, nuevo, esOtro]() -> std::expected<void, IndexError> {
+    std::string const donde{clave};
+    auto const guardado = leerTexto(preferencias, donde);
+    if (!guardado) return std::unexpected{guardado.error()};
+    if (!esOtro && idiomaGuardado(guardado->value_or("")) == nuevo) return {};
+    return preferencias.escribir(donde, std::string{textoCrudo(nuevo)});
+  };
 }
 
 }  // namespace zorve

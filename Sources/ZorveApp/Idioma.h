@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <expected>
+#include <functional>
 #include <string_view>
 #include <utility>
 
@@ -41,9 +42,10 @@ class PreferenciaDeIdioma {
   /// In which this system's texts are written, whatever the language.
   [[nodiscard]] VocesDelSistema const& voces() const { return voces_; }
 
-  /// Stores `nuevo` and puts it in force, unless it is in force already. When it cannot be stored it is in
-  /// force until the program ends, and the failure is returned.
-  [[nodiscard]] std::expected<void, IndexError> elegir(Idioma nuevo);
+  /// Puts `nuevo` in force, and gives what stores it, to be called once and on any thread but the main one,
+  /// since it may wait; this object may be gone by then, the settings may not. What was in force already is
+  /// stored only where the settings select another. What cannot be stored is in force until the program ends.
+  std::function<std::expected<void, IndexError>()> elegir(Idioma nuevo);
 
  private:
   Preferencias& preferencias_;

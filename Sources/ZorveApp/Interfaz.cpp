@@ -33,7 +33,7 @@ ColaboradoresDeAjustes deAjustes(Cimientos const& sobre, PreferenciaDeIdioma& id
 }  // namespace
 
 Interfaz::Interfaz(Cimientos const& sobre)
-    : banderas{sobre.preferencias},
+    : banderas{sobre.preferencias, sobre.despachador},
       idioma{sobre.preferencias, sobre.servicios.fuentes.voces},
       modelo_{delModelo(sobre, idioma)},
       modeloDeAjustes_{deAjustes(sobre, idioma)},

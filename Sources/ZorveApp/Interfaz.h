@@ -3,13 +3,13 @@
 #include <optional>
 #include <string>
 
+#include "ZorveApp/BanderasEnFondo.h"
 #include "ZorveApp/EstadoDelPanel.h"
 #include "ZorveApp/ModeloDeAjustes.h"
 #include "ZorveApp/ModeloDeVista.h"
 #include "ZorveApp/PanelView.h"
 #include "ZorveApp/VistaAjustes.h"
 #include "ZorveCore/Lectura/SessionIndex.h"
-#include "ZorveCore/PrimerArranque.h"
 
 namespace zorve {
 
@@ -43,7 +43,7 @@ class Interfaz {
   Interfaz& operator=(Interfaz const&) = delete;
   ~Interfaz() = default;
 
-  BanderasDeUsuario banderas;
+  BanderasEnFondo banderas;
   PreferenciaDeIdioma idioma;
   EstadoDelPanel estado;
 

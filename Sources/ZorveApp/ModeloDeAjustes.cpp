@@ -76,15 +76,45 @@ void ModeloDeAjustes::alternarArranque() {
 }
 
 void ModeloDeAjustes::elegirTerminal(std::optional<std::string> const& identificador) {
-  auto const guardado = elegir(con_.preferencias, identificador);
-  empezarCarga(guardado ? std::nullopt : std::optional{delNucleo(guardado.error())});
+  guardar({[&preferencias = con_.preferencias, identificador] { return elegir(preferencias, identificador); },
+           &ModeloDeAjustes::trasLaTerminal});
 }
 
 void ModeloDeAjustes::elegirIdioma(Idioma idioma) {
-  auto const guardado = con_.idioma.elegir(idioma);
-  if (guardado) return;
-  falloReciente_ = delNucleo(guardado.error());
-  fallo_.escribir(falloReciente_);
+  guardar({con_.idioma.elegir(idioma), &ModeloDeAjustes::trasElIdioma});
+}
+
+void ModeloDeAjustes::guardar(PorGuardar uno) {
+  porGuardar_.push_back(std::move(uno));
+  if (porGuardar_.size() == 1) guardarElPrimero();
+}
+
+void ModeloDeAjustes::guardarElPrimero() {
+  enFondo(con_.despachador, vida_, porGuardar_.front().cambio, &ModeloDeAjustes::terminarGuardado);
+}
+
+void ModeloDeAjustes::terminarGuardado(Guardado guardado) {
+  auto const alAcabar = porGuardar_.front().alAcabar;
+  porGuardar_.pop_front();
+  if (!porGuardar_.empty()) guardarElPrimero();
+  (this->*alAcabar)(guardado);
+}
+
+void ModeloDeAjustes::trasLaTerminal(Guardado const& guardado) {
+  falloDeGuardar_ = guardado ? std::nullopt : std::optional{delNucleo(guardado.error())};
+  empezarCarga(falloDeGuardar_);
+}
+
+void ModeloDeAjustes::trasElIdioma(Guardado const& guardado) {
+  auto const anterior =
+      std::exchange(falloDeGuardar_, guardado ? std::nullopt : std::optional{delNucleo(guardado.error())});
+  if (falloDeGuardar_) {
+    falloReciente_ = falloDeGuardar_;
+    fallo_.escribir(falloReciente_);
+  } else if (anterior && *fallo_ == anterior) {
+    fallo_.escribir(std::nullopt);
+    empezarCarga(std::nullopt);
+  }
 }
 
 std::vector<Suscripcion> ModeloDeAjustes::observar(std::function<void()> const& observador) const {

@@ -2,6 +2,8 @@
 
 #include <array>
 #include <cstdint>
+#include <deque>
+#include <expected>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -40,7 +42,8 @@ struct FalloDeAjustes {
   bool operator==(FalloDeAjustes const&) const = default;
 };
 
-/// What the settings work with. The referenced objects outlive the model; `despachador` outlives its tasks.
+/// What the settings work with. The referenced objects outlive the model; `despachador` and `preferencias`
+/// outlive its tasks.
 struct ColaboradoresDeAjustes {
   FuentesDeTerminales terminales;
   Preferencias& preferencias;
@@ -52,7 +55,7 @@ struct ColaboradoresDeAjustes {
 };
 
 /// The state behind the settings window. Main thread only; terminals are looked at in the background, since
-/// that may run programs.
+/// that may run programs, and choices are saved there, since that may wait for another program.
 class ModeloDeAjustes {
  public:
   explicit ModeloDeAjustes(ColaboradoresDeAjustes con);
@@ -82,8 +85,9 @@ class ModeloDeAjustes {
   /// Switches launch at login and shows the real state after it, also after a failure.
   void alternarArranque();
   /// Saves the terminal to use, or that the program is to decide; then loads. A failure to save stays in
-  /// `fallo`.
+  /// `fallo` until something is saved. Saving happens in the background, one choice after another.
   void elegirTerminal(std::optional<std::string> const& identificador);
+  /// In force at once; saved like that.
   void elegirIdioma(Idioma idioma);
 
   /// `observador` is called after each change of any property, until the subscriptions end.
@@ -95,6 +99,16 @@ class ModeloDeAjustes {
     std::uint64_t numero = 0;
     MiradaDeTerminales mirada;
   };
+  using Guardado = std::expected<void, IndexError>;
+  struct PorGuardar {
+    std::function<Guardado()> cambio;
+    void (ModeloDeAjustes::*alAcabar)(Guardado const&);
+  };
+  void guardar(PorGuardar uno);
+  void guardarElPrimero();
+  void terminarGuardado(Guardado guardado);
+  void trasLaTerminal(Guardado const& guardado);
+  void trasElIdioma(Guardado const& guardado);
   void empezarCarga(std::optional<FalloDeAjustes> reciente);
   void terminarCarga(Carga carga);
   void escribirFalloDe(MiradaDeTerminales const& mirada);
@@ -110,6 +124,10 @@ class ModeloDeAjustes {
   Observable<bool> cargado_;
   /// A failure met since the last load began, or right before it: that load does not clear it.
   std::optional<FalloDeAjustes> falloReciente_;
+  /// The last failure to save, until something is saved.
+  std::optional<FalloDeAjustes> falloDeGuardar_;
+  /// What is being saved, and what waits for its turn.
+  std::deque<PorGuardar> porGuardar_;
   std::uint64_t ultimaCarga_ = 0;
   std::shared_ptr<ModeloDeAjustes*> vida_ = std::make_shared<ModeloDeAjustes*>(this);
 };

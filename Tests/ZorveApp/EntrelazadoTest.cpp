@@ -180,7 +180,7 @@ TEST(Entrelazado, unCambioDeIdiomaAMediasNoCambiaElIdiomaDeLaAperturaYaPedida) {
     p.cargar({sesionDe("a")});
     p.corre(Partida::reapertura("a"), 1, "");
     p.modelo->abrirSeleccionada();
-    return Guion{[&p] { EXPECT_TRUE(p.idioma.elegir(Idioma::es)); }};
+    return Guion{[&p] { p.idioma.elegir(Idioma::es); }};
   };
   auto const ordenes = enTodosLosOrdenes(guion, [](Partida& p) {
     EXPECT_EQ(*p.modelo->errorDeApertura(), "/abrir exited with code 1: (no output)");
@@ -195,7 +195,7 @@ TEST(Entrelazado, elErrorDeTerminalDeUnaCargaVaEnElIdiomaDeCuandoAcaba) {
   auto const guion = [](Partida& p) {
     *p.eleccion = "ausente";
     p.modelo->refrescar();
-    return Guion{[&p] { EXPECT_TRUE(p.idioma.elegir(Idioma::es)); }};
+    return Guion{[&p] { p.idioma.elegir(Idioma::es); }};
   };
   enTodosLosOrdenes(guion, [&](Partida& p) {
     auto const error = p.modelo->errorDeTerminal()->value_or("");

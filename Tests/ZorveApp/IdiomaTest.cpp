@@ -54,11 +54,11 @@ TEST(PreferenciaDeIdioma, elegirOtroLoGuardaYAvisa) {
   PreferenciaDeIdioma idioma{preferencias};
   int avisos = 0;
   auto const suscripcion = idioma.idioma().observar([&] { ++avisos; });
-  EXPECT_TRUE(idioma.elegir(Idioma::es));
+  EXPECT_TRUE(idioma.elegir(Idioma::es)());
   EXPECT_EQ(*idioma.idioma(), Idioma::es);
   EXPECT_EQ(textoGuardado(preferencias, clave), "es");
   EXPECT_EQ(avisos, 1);
-  EXPECT_TRUE(idioma.elegir(Idioma::en));
+  EXPECT_TRUE(idioma.elegir(Idioma::en)());
   EXPECT_EQ(textoGuardado(preferencias, clave), "en");
 }
 
@@ -67,16 +67,43 @@ TEST(PreferenciaDeIdioma, elegirElQueRigeNoEscribeNiAvisa) {
   PreferenciaDeIdioma idioma{preferencias};
   int avisos = 0;
   auto const suscripcion = idioma.idioma().observar([&] { ++avisos; });
-  EXPECT_TRUE(idioma.elegir(Idioma::en));
+  EXPECT_TRUE(idioma.elegir(Idioma::en)());
   EXPECT_EQ(preferencias.cambios(), 0);
   EXPECT_EQ(avisos, 0);
+}
+
+TEST(PreferenciaDeIdioma, elegirElQueRigeLoGuardaSiElGuardadoEsOtro) {
+  PreferenciasEnMemoria preferencias;
+  PreferenciaDeIdioma idioma{preferencias};
+  ASSERT_TRUE(preferencias.escribir(clave, std::string{"es"}));
+  EXPECT_TRUE(idioma.elegir(Idioma::en)());
+  EXPECT_EQ(textoGuardado(preferencias, clave), "en");
+}
+
+TEST(PreferenciaDeIdioma, loQueNoSePudoGuardarSeGuardaAlElegirloOtraVez) {
+  PreferenciasEnMemoria preferencias;
+  PreferenciaDeIdioma idioma{preferencias};
+  preferencias.fallarCon(IndexError{IndexSource::launcher, "read-only"});
+  ASSERT_FALSE(idioma.elegir(Idioma::es)());
+  preferencias.fallarCon(std::nullopt);
+  EXPECT_TRUE(idioma.elegir(Idioma::es)());
+  EXPECT_EQ(textoGuardado(preferencias, clave), "es");
+}
+
+TEST(PreferenciaDeIdioma, rigeAntesDeGuardarse) {
+  PreferenciasEnMemoria preferencias;
+  PreferenciaDeIdioma idioma{preferencias};
+  auto const guardar = idioma.elegir(Idioma::es);
+  EXPECT_EQ(*idioma.idioma(), Idioma::es);
+  EXPECT_EQ(preferencias.cambios(), 0);
+  EXPECT_TRUE(guardar());
 }
 
 TEST(PreferenciaDeIdioma, siNoSePuedeGuardarRigeYDevuelveElFallo) {
   PreferenciasEnMemoria preferencias;
   PreferenciaDeIdioma idioma{preferencias};
   preferencias.fallarCon(IndexError{IndexSource::launcher, "read-only"});
-  auto const guardado = idioma.elegir(Idioma::es);
+  auto const guardado = idioma.elegir(Idioma::es)();
   ASSERT_FALSE(guardado);
   EXPECT_EQ(guardado.error().mensaje, "read-only");
   EXPECT_EQ(*idioma.idioma(), Idioma::es);
@@ -84,7 +111,7 @@ TEST(PreferenciaDeIdioma, siNoSePuedeGuardarRigeYDevuelveElFallo) {
 
 TEST(PreferenciaDeIdioma, elSiguienteArranqueLeeLoElegido) {
   PreferenciasEnMemoria preferencias;
-  ASSERT_TRUE(PreferenciaDeIdioma{preferencias}.elegir(Idioma::es));
+  ASSERT_TRUE(PreferenciaDeIdioma{preferencias}.elegir(Idioma::es)());
   EXPECT_EQ(*PreferenciaDeIdioma{preferencias}.idioma(), Idioma::es);
 }
 

@@ -63,7 +63,7 @@ class Mesa : public ::testing::Test {
     modelo.reset();
     modelo = std::make_unique<ModeloDeVista>(colaboradores());
   }
-  void enEspanol() { ASSERT_TRUE(idioma.elegir(Idioma::es)); }
+  void enEspanol() { idioma.elegir(Idioma::es); }
 
   ColaboradoresDelModelo colaboradores() {
     return {.cargar = [disco = disco] { return *disco; },

@@ -50,8 +50,12 @@ class MesaDeAjustes : public ::testing::Test {
     modelo->elegirTerminal(identificador);
     despachador.correrTodo();
   }
+  void elegirYGuardar(Idioma cual) {
+    modelo->elegirIdioma(cual);
+    despachador.correrTodo();
+  }
   void guardada(std::string const& identificador) { ASSERT_TRUE(elegir(preferencias, identificador)); }
-  void enEspanol() { ASSERT_TRUE(idioma.elegir(Idioma::es)); }
+  void enEspanol() { idioma.elegir(Idioma::es); }
 
   static constexpr char const* variasInstaladas =
       "Several terminals are installed (Uno, Dos) and the system has none registered as the handler for "

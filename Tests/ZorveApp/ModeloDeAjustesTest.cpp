@@ -120,8 +120,56 @@ TEST_F(ModeloDeAjustesTest, elegirElIdiomaLoPoneEnVigor) {
 
 TEST_F(ModeloDeAjustesTest, siNoSePuedeGuardarElIdiomaLaBandaLoDice) {
   preferencias.fallarCon(IndexError{IndexSource::launcher, "read-only"});
-  modelo->elegirIdioma(Idioma::es);
+  elegirYGuardar(Idioma::es);
+  EXPECT_EQ(*idioma.idioma(), Idioma::es);
   EXPECT_EQ(*modelo->fallo(), (FalloDeAjustes{Caso::deNucleo, "read-only"}));
+}
+
+TEST_F(ModeloDeAjustesTest, guardarElIdiomaQuitaLaBandaDeUnGuardadoFallido) {
+  *manejador = "com.uno";
+  preferencias.fallarCon(IndexError{IndexSource::launcher, "read-only"});
+  elegirYGuardar(Idioma::es);
+  preferencias.fallarCon(std::nullopt);
+  elegirYGuardar(Idioma::es);
+  EXPECT_EQ(*modelo->fallo(), std::nullopt);
+  EXPECT_EQ(textoGuardado(preferencias, std::string{PreferenciaDeIdioma::clave}), "es");
+}
+
+TEST_F(ModeloDeAjustesTest, guardarElIdiomaQuitaTambienLaBandaDeUnaTerminalQueNoSeGuardo) {
+  *manejador = "com.uno";
+  preferencias.fallarCon(IndexError{IndexSource::launcher, "read-only"});
+  elegirYCargar("com.dos");
+  preferencias.fallarCon(std::nullopt);
+  elegirYGuardar(Idioma::es);
+  EXPECT_EQ(*modelo->fallo(), std::nullopt);
+}
+
+TEST_F(ModeloDeAjustesTest, guardarElIdiomaDejaLaBandaDeLoQueNoEraGuardar) {
+  cargar();
+  elegirYGuardar(Idioma::es);
+  EXPECT_EQ(*modelo->fallo(), (FalloDeAjustes{Caso::deNucleo, variasInstaladas}));
+}
+
+TEST_F(ModeloDeAjustesTest, nadaSeGuardaEnElHiloPrincipal) {
+  modelo->elegirIdioma(Idioma::es);
+  modelo->elegirTerminal("com.dos");
+  while (despachador.pasoPrincipal()) {
+  }
+  EXPECT_EQ(preferencias.cambios(), 0);
+  despachador.correrTodo();
+  EXPECT_EQ(preferencias.cambios(), 2);
+}
+
+TEST_F(ModeloDeAjustesTest, deDosEleccionesSeguidasQuedaLaUltimaCorraQuienCorraPrimero) {
+  modelo->elegirTerminal("com.uno");
+  modelo->elegirTerminal("com.dos");
+  while (despachador.deFondo() + despachador.principales() > 0) {
+    if (despachador.deFondo() > 0) despachador.pasoDeFondo(despachador.deFondo() - 1);
+    while (despachador.pasoPrincipal()) {
+    }
+  }
+  EXPECT_EQ(eleccionGuardada(preferencias), "com.dos");
+  EXPECT_EQ(*modelo->eleccion(), "com.dos");
 }
 
 TEST_F(ModeloDeAjustesTest, alternarElArranqueLoEnciendeYLoApaga) {
@@ -186,7 +234,8 @@ TEST_F(ModeloDeAjustesTest, deDosCargasALaVezCuentaLaUltima) {
 TEST_F(ModeloDeAjustesTest, deDosCargasQueAcabanAlRevesCuentaLaUltima) {
   guardada("com.uno");
   modelo->cargar();
-  modelo->elegirTerminal("com.dos");
+  guardada("com.dos");
+  modelo->cargar();
   ASSERT_TRUE(despachador.pasoDeFondo(1));
   guardada("com.uno");
   ASSERT_TRUE(despachador.pasoDeFondo(0));
