@@ -22,9 +22,11 @@ std::optional<std::string> fallaAlCorrer(ComandoDeApertura const& comando, Ejecu
   return textos.comandoFallo(comando.ejecutable, corrida->codigo, salida.empty() ? textos.sinSalida : salida);
 }
 
-ResultadoDeApertura abrirCon(TerminalResuelta const& resuelta, PeticionDeApertura const& peticion) {
+ResultadoDeApertura abrirCon(TerminalResuelta const& resuelta, PeticionDeApertura const& peticion,
+                             std::function<void(TerminalResuelta const&)> const& alPlanear) {
   ResultadoDeApertura resultado{.terminal = resuelta};
   auto const plan = peticion.servicios.lanzador(resuelta.terminal, peticion.ejecutor).plan(peticion.sesion);
+  if (alPlanear) alPlanear(resuelta);
   if (!plan) {
     resultado.error = textoDe(plan.error(), peticion.textos);
   } else if (auto const* sinEnfoque = std::get_if<NoSePuedeEnfocar>(&*plan)) {
@@ -64,10 +66,11 @@ std::string razonDe(NoSePuedeEnfocar const& plan, Anfitriona const& anfitriona, 
   return plan.tty ? textos.sinEnfoque(*plan.tty, anfitriona.nombre()) : textos.sinTty();
 }
 
-ResultadoDeApertura abrirSesion(PeticionDeApertura const& peticion) {
+ResultadoDeApertura abrirSesion(PeticionDeApertura const& peticion,
+                                std::function<void(TerminalResuelta const&)> const& alPlanear) {
   auto const resuelta = mirar(peticion.servicios.fuentes).resuelta;
   if (!resuelta) return {.error = textoDe(resuelta.error(), peticion.textos)};
-  return abrirCon(*resuelta, peticion);
+  return abrirCon(*resuelta, peticion, alPlanear);
 }
 
 }  // namespace zorve

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <expected>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -29,8 +30,10 @@ struct ResultadoDeApertura {
 };
 
 /// Resolves the terminal, plans, and runs the plan's commands one after another up to the first that fails.
-/// Texts are in the language of `peticion.textos`. Any thread but the main one.
-[[nodiscard]] ResultadoDeApertura abrirSesion(PeticionDeApertura const& peticion);
+/// `alPlanear` gets the resolved terminal when planning has ended, before anything is run; not when resolving
+/// failed. Texts are in the language of `peticion.textos`. Any thread but the main one.
+[[nodiscard]] ResultadoDeApertura abrirSesion(
+    PeticionDeApertura const& peticion, std::function<void(TerminalResuelta const&)> const& alPlanear = {});
 
 /// Runs `comandos` one after another up to the first that fails; the text of that failure, or nothing. Where
 /// they would type control characters into a shell none is run, and that is the failure. Any thread but the

@@ -22,11 +22,17 @@ bool seLlama(Session const& sesion, std::string_view id) {
 
 }  // namespace
 
+/// What resolving the terminal gave, and when it was asked: later resolutions have higher turns.
+struct ModeloDeVista::Resolucion {
+  std::uint64_t turno = 0;
+  std::expected<TerminalResuelta, FalloDeApertura> terminal;
+};
+
 /// What a load hands back.
 struct ModeloDeVista::Carga {
   IndexResult resultado;
   TextosPlegados plegados;
-  std::expected<TerminalResuelta, FalloDeApertura> terminal;
+  Resolucion resolucion;
 };
 
 ModeloDeVista::ModeloDeVista(ColaboradoresDelModelo con) : con_{std::move(con)}, lista_{con_.regla} {}
@@ -113,25 +119,32 @@ void ModeloDeVista::refrescar() {
   refrescando_.escribir(true);
   enFondo(
       con_.despachador, vida_,
-      [cargar = con_.cargar, fuentes = con_.servicios.fuentes, regla = con_.regla] {
+      [cargar = con_.cargar, fuentes = con_.servicios.fuentes, regla = con_.regla, turnos = turnos_] {
         auto resultado = cargar();
         TextosPlegados plegados{resultado.sesiones, regla};
-        return Carga{std::move(resultado), std::move(plegados), mirar(fuentes).resuelta};
+        auto const turno = ++*turnos;
+        return Carga{std::move(resultado), std::move(plegados), {turno, mirar(fuentes).resuelta}};
       },
       &ModeloDeVista::terminarCarga);
 }
 
 void ModeloDeVista::terminarCarga(Carga carga) {
   ponerResultado(std::move(carga.resultado), std::move(carga.plegados));
-  if (carga.terminal) {
-    terminal_.escribir(*std::move(carga.terminal));
+  escribirTerminal(std::move(carga.resolucion));
+  refrescando_.escribir(false);
+  corregirSeleccion();
+}
+
+void ModeloDeVista::escribirTerminal(Resolucion resolucion) {
+  if (resolucion.turno < turnoEscrito_) return;
+  turnoEscrito_ = resolucion.turno;
+  if (resolucion.terminal) {
+    terminal_.escribir(*std::move(resolucion.terminal));
     errorTerminal_.escribir(std::nullopt);
   } else {
     terminal_.escribir(std::nullopt);
-    errorTerminal_.escribir(textos().noSePudoResolverLaTerminal(descripcionDe(carga.terminal.error())));
+    errorTerminal_.escribir(textos().noSePudoResolverLaTerminal(descripcionDe(resolucion.terminal.error())));
   }
-  refrescando_.escribir(false);
-  corregirSeleccion();
 }
 
 void ModeloDeVista::abrirSeleccionada() {
@@ -142,15 +155,18 @@ void ModeloDeVista::abrirSeleccionada() {
   aviso_.escribir(std::nullopt);
   consejo_.escribir(std::nullopt);
   enFondo(
-      con_.despachador, vida_, [peticion = std::move(peticion)] { return abrirSesion(peticion); },
+      con_.despachador, vida_,
+      [peticion = std::move(peticion), turnos = turnos_, &despachador = con_.despachador,
+       vida = std::weak_ptr{vida_}] {
+        auto const turno = ++*turnos;
+        return abrirSesion(peticion, [&](TerminalResuelta const& resuelta) {
+          alPrincipal(despachador, vida, &ModeloDeVista::escribirTerminal, Resolucion{turno, resuelta});
+        });
+      },
       &ModeloDeVista::terminarApertura);
 }
 
 void ModeloDeVista::terminarApertura(ResultadoDeApertura resultado) {
-  if (resultado.terminal) {
-    terminal_.escribir(std::move(resultado.terminal));
-    errorTerminal_.escribir(std::nullopt);
-  }
   if (resultado.aviso) aviso_.escribir(std::move(resultado.aviso));
   if (resultado.consejo) consejo_.escribir(std::move(resultado.consejo));
   if (resultado.error) error_.escribir(std::move(resultado.error));

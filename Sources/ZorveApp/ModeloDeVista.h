@@ -1,6 +1,8 @@
 #pragma once
 
+#include <atomic>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -77,7 +79,8 @@ class ModeloDeVista {
   /// Loads in the background, unless a load runs already.
   void refrescar();
   /// Clears both messages and opens the selected session in the background. Openings are independent of
-  /// each other: the last to end writes last. Does nothing without a selection.
+  /// each other: the last to end writes last. The terminal is known when planning has ended, and is written
+  /// unless a resolution that began later was. Does nothing without a selection.
   void abrirSeleccionada();
   /// Copies the selected session's identifier (its directory when it has none) and says so.
   void copiarIdentificador();
@@ -87,8 +90,10 @@ class ModeloDeVista {
 
  private:
   struct Carga;
+  struct Resolucion;
   [[nodiscard]] Textos textos() const { return textosDe(con_.idioma); }
   void terminarCarga(Carga carga);
+  void escribirTerminal(Resolucion resolucion);
   void terminarApertura(ResultadoDeApertura resultado);
   void ponerResultado(IndexResult nuevo, TextosPlegados plegados);
   void corregirSeleccion();
@@ -105,6 +110,10 @@ class ModeloDeVista {
   Observable<bool> refrescando_;
   Observable<std::optional<TerminalResuelta>> terminal_;
   Observable<std::optional<std::string>> errorTerminal_;
+  /// The turn of the resolution that `terminal_` and `errorTerminal_` tell of.
+  std::uint64_t turnoEscrito_ = 0;
+  /// The last turn given out; resolutions take theirs in the background, right before they ask.
+  std::shared_ptr<std::atomic<std::uint64_t>> turnos_ = std::make_shared<std::atomic<std::uint64_t>>(0);
   std::shared_ptr<ModeloDeVista*> vida_ = std::make_shared<ModeloDeVista*>(this);
 };
 

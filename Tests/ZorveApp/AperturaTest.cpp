@@ -1,5 +1,8 @@
 #include "ZorveApp/Apertura.h"
 
+#include <expected>
+#include <functional>
+#include <span>
 #include <stdexcept>
 
 #include "Mesa.h"
@@ -197,6 +200,65 @@ TEST_F(AperturaTest, unaAperturaQueResuelvePoneLaTerminalYQuitaSuError) {
   EXPECT_EQ((*modelo->terminal())->origen, OrigenDeLaTerminal::eleccionDeLaPersona);
   EXPECT_EQ(*modelo->errorDeTerminal(), std::nullopt);
   EXPECT_TRUE(error());
+}
+
+/// Has something looked at while a command runs.
+class EjecutorQueMira final : public Ejecutor {
+ public:
+  explicit EjecutorQueMira(std::function<void()> mirar) : mirar_{std::move(mirar)} {}
+  [[nodiscard]] std::expected<ResultadoDeEjecucion, FalloDelSistema> correr(
+      std::string const& /*ruta*/, std::span<std::string const> /*args*/) const override {
+    mirar_();
+    return ResultadoDeEjecucion{0, ""};
+  }
+
+ private:
+  std::function<void()> mirar_;
+};
+
+TEST_F(AperturaTest, laTerminalSeSabeAlPlanearYNoAlAcabarLaOrden) {
+  cargar({sesionDe("a")});
+  terminalesConocidas({dobles::terminalFija({.identificador = "dos", .nombre = "Dos"})});
+  std::string duranteLaOrden;
+  EjecutorQueMira const mirador{[&] {
+    despachador.correrTodo();
+    duranteLaOrden = modelo->terminalParaElPie();
+  }};
+  auto con = colaboradores();
+  modelo = std::make_unique<ModeloDeVista>(ColaboradoresDelModelo{.cargar = con.cargar,
+                                                                  .servicios = con.servicios,
+                                                                  .ejecutor = mirador,
+                                                                  .portapapeles = portapapeles,
+                                                                  .despachador = despachador,
+                                                                  .idioma = idioma});
+  modelo->escribirResultado({.sesiones = {sesionDe("a")}, .errores = {}});
+  abrir();
+  EXPECT_EQ(duranteLaOrden, "Dos (the only one)");
+}
+
+TEST_F(AperturaTest, unaResolucionAnteriorNoTapaALaPosterior) {
+  terminalesConocidas({dobles::terminalFija({.identificador = "uno", .nombre = "Uno"}),
+                       dobles::terminalFija({.identificador = "dos", .nombre = "Dos"})});
+  for (auto const* const primera : {"uno", "ausente"}) {
+    *eleccion = primera;
+    auto con = colaboradores();
+    bool enLaPrimera = true;
+    con.servicios.fuentes.sistema = [&] {
+      if (std::exchange(enLaPrimera, false)) {
+        *eleccion = "dos";
+        EXPECT_TRUE(despachador.pasoDeFondo());
+      }
+      return RespuestaDelSistema{};
+    };
+    ModeloDeVista otro{std::move(con)};
+    otro.escribirResultado({.sesiones = {sesionDe("a")}, .errores = {}});
+    enDisco({sesionDe("a")});
+    otro.refrescar();
+    otro.abrirSeleccionada();
+    despachador.correrTodo();
+    EXPECT_EQ(otro.terminalParaElPie(), "Dos") << primera;
+    EXPECT_EQ(*otro.errorDeTerminal(), std::nullopt) << primera;
+  }
 }
 
 TEST_F(AperturaTest, cadaCargaYCadaAperturaMiranElManejadorEnSegundoPlano) {

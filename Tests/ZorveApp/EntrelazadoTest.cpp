@@ -186,7 +186,7 @@ TEST(Entrelazado, unCambioDeIdiomaAMediasNoCambiaElIdiomaDeLaAperturaYaPedida) {
     EXPECT_EQ(*p.modelo->errorDeApertura(), "/abrir exited with code 1: (no output)");
     EXPECT_EQ(p.modelo->terminalParaElPie(), "Uno (la única)");
   });
-  EXPECT_EQ(ordenes, 3);
+  EXPECT_EQ(ordenes, 4);
 }
 
 TEST(Entrelazado, elErrorDeTerminalDeUnaCargaVaEnElIdiomaDeCuandoAcaba) {
@@ -218,7 +218,7 @@ TEST(Entrelazado, elModeloPuedeDesaparecerEnCualquierMomentoDeUnaCargaYDeUnaAper
   EXPECT_GT(ordenes, 10);
 }
 
-TEST(Entrelazado, unaAperturaYUnaCargaALaVezDejanLaTerminalDeLaQueAcabaUltima) {
+TEST(Entrelazado, unaAperturaYUnaCargaALaVezDejanUnaTerminalYNingunError) {
   auto const guion = [](Partida& p) {
     p.cargar({sesionDe("a")});
     p.corre(Partida::reapertura("a"), 0, "");
