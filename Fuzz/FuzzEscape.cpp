@@ -5,9 +5,12 @@
 #include <string_view>
 
 #include "Dobles/LectorDeLiterales.h"
+#include "Exigir.h"
 #include "ZorveCore/Texto/Escape.h"
 
 namespace {
+
+using zorve::fuzz::exigir;
 
 /// What a POSIX shell reads in `palabra`, when that is quoted runs and escaped apostrophes and nothing else.
 std::string leerPalabra(std::string_view palabra) {
@@ -24,10 +27,6 @@ std::string leerPalabra(std::string_view palabra) {
     palabra.remove_prefix(fin + 1);
   }
   return texto;
-}
-
-void exigir(bool cierto) {
-  if (!cierto) std::abort();
 }
 
 }  // namespace

@@ -5,11 +5,14 @@
 #include <string_view>
 #include <vector>
 
-#include "SegundaLectura.h"
+#include "Dobles/SegundaLectura.h"
+#include "Exigir.h"
 #include "ZorveCore/Lectura/HistoryStore.h"
 
 namespace zorve::fuzz {
 namespace {
+
+using namespace dobles;
 
 /// One file in memory whose reads give at most `maximo` bytes.
 class UnArchivo final : public Archivos {

@@ -2,11 +2,14 @@
 #include <cmath>
 #include <string>
 
-#include "SegundaLectura.h"
+#include "Dobles/SegundaLectura.h"
+#include "Exigir.h"
 #include "ZorveCore/Lectura/RegistroJson.h"
 
 namespace zorve::fuzz {
 namespace {
+
+using namespace dobles;
 
 using Tipo = RegistroJson::Tipo;
 using Valor = RegistroJson::Valor;

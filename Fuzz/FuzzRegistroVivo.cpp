@@ -2,12 +2,15 @@
 #include <string>
 #include <utility>
 
+#include "Dobles/SegundaLectura.h"
 #include "Dobles/UnSoloArchivo.h"
-#include "SegundaLectura.h"
+#include "Exigir.h"
 #include "ZorveCore/Lectura/LiveProbe.h"
 
 namespace zorve::fuzz {
 namespace {
+
+using namespace dobles;
 
 /// One record in a folder of its own.
 class UnRegistro final : public Archivos {

@@ -151,8 +151,10 @@ TEST(TranscriptScannerBloque, enBloquesAlAzarHallaLoMismoQueLaLecturaIngenua) {
   for (int vez = 0; vez < 5'000; ++vez) {
     std::string bloque;
     for (auto i = azar() % 30; i > 0; --i) bloque += trozos[azar() % std::size(trozos)];
-    ASSERT_EQ(ultimoAITitle(bloque), ingenua.titulo(bloque)) << bloque;
-    ASSERT_EQ(primerCwd(bloque), ingenua.directorio(bloque)) << bloque;
+    auto const esperada = ingenua.deBloque(bloque);
+    ASSERT_FALSE(ingenua.noSabe) << bloque;
+    ASSERT_EQ(ultimoAITitle(bloque), esperada.aiTitle) << bloque;
+    ASSERT_EQ(primerCwd(bloque), esperada.cwd) << bloque;
   }
 }
 

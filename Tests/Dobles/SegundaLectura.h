@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <map>
 #include <optional>
 #include <string>
@@ -13,7 +12,7 @@
 #include <utility>
 #include <variant>
 
-namespace zorve::fuzz {
+namespace zorve::dobles {
 
 /// What a value of the outermost object is; `Otro` is true, false, an array, an object or a number out of
 /// range.
@@ -25,8 +24,9 @@ struct Otro {
 };
 using ValorLeido = std::variant<Nulo, Otro, std::string, std::int64_t, double>;
 
-/// The outermost object of a JSON text, read by another parser: of equal keys the first. `leido` is nothing
-/// where the text is no record, or where this parser cannot tell (`noSabe`: numbers beyond doubles).
+/// The outermost object of a JSON text, read by another parser than the program's: of equal keys the first.
+/// `leido` is nothing where the text is no record, or where this parser cannot tell (`noSabe`: numbers beyond
+/// doubles).
 struct SegundaLectura {
   std::optional<std::map<std::string, ValorLeido>> leido;
   bool noSabe = false;
@@ -104,9 +104,4 @@ inline SegundaLectura leerOtraVez(std::string_view json) {
   return {.leido = std::move(receptor.valores)};
 }
 
-/// Stops the fuzzer where a property does not hold.
-inline void exigir(bool seCumple) {
-  if (!seCumple) std::abort();
-}
-
-}  // namespace zorve::fuzz
+}  // namespace zorve::dobles
