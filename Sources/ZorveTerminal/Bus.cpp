@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "ZorvePlatform/Posix/Variable.h"
+#include "ZorveTerminal/DatosDelMensaje.h"
 #include "ZorveTerminal/NodosNumerados.h"
 
 namespace zorve::ayudante {
@@ -99,48 +100,6 @@ class Escritor {
   DBusMessageIter donde_{};
 };
 
-template <class T>
-T basico(DBusMessageIter& donde) {
-  T valor{};
-  dbus_message_iter_get_basic(&donde, static_cast<void*>(&valor));
-  return valor;
-}
-
-void leer(DBusMessageIter donde, std::vector<DatoDeRespuesta>& datos) {
-  for (; dbus_message_iter_get_arg_type(&donde) != DBUS_TYPE_INVALID; dbus_message_iter_next(&donde)) {
-    switch (dbus_message_iter_get_arg_type(&donde)) {
-      case DBUS_TYPE_BOOLEAN:
-        datos.emplace_back(basico<dbus_bool_t>(donde) != 0);
-        break;
-      case DBUS_TYPE_INT32:
-        datos.emplace_back(std::int64_t{basico<std::int32_t>(donde)});
-        break;
-      case DBUS_TYPE_UINT32:
-        datos.emplace_back(std::int64_t{basico<std::uint32_t>(donde)});
-        break;
-      case DBUS_TYPE_INT64:
-        datos.emplace_back(basico<std::int64_t>(donde));
-        break;
-      case DBUS_TYPE_STRING:
-      case DBUS_TYPE_OBJECT_PATH:
-      case DBUS_TYPE_SIGNATURE:
-        datos.emplace_back(std::string{basico<char const*>(donde)});
-        break;
-      case DBUS_TYPE_ARRAY:
-      case DBUS_TYPE_STRUCT:
-      case DBUS_TYPE_VARIANT:
-      case DBUS_TYPE_DICT_ENTRY: {
-        DBusMessageIter hijos;
-        dbus_message_iter_recurse(&donde, &hijos);
-        leer(hijos, datos);
-        break;
-      }
-      default:
-        break;
-    }
-  }
-}
-
 bool esPara(Metodo const& metodo, std::string const& quien, DBusMessage* llamada) {
   return !quien.empty() && dbus_message_has_sender(llamada, quien.c_str()) != 0 &&
          dbus_message_is_method_call(llamada, metodo.interfaz.c_str(), metodo.nombre.c_str()) != 0 &&
@@ -199,10 +158,7 @@ Respuesta Bus::llamar(Metodo const& metodo, std::span<Argumento const> argumento
     auto const callo = fallo.es(DBUS_ERROR_NO_REPLY) || fallo.es(DBUS_ERROR_TIMEOUT);
     return std::unexpected{callo ? FalloDeBus::calla : FalloDeBus::rechaza};
   }
-  std::vector<DatoDeRespuesta> datos;
-  DBusMessageIter donde;
-  if (dbus_message_iter_init(respuesta.get(), &donde) != 0) leer(donde, datos);
-  return datos;
+  return datosDelMensaje(respuesta.get());
 }
 
 std::string Bus::nombre() const {
@@ -218,9 +174,7 @@ std::optional<std::string> Bus::recibir(Metodo const& nuestro, std::chrono::mill
     for (Mensaje mensaje{dbus_connection_pop_message(conexion_->bus)}; mensaje;
          mensaje.reset(dbus_connection_pop_message(conexion_->bus))) {
       if (!esPara(nuestro, quien, mensaje.get())) continue;
-      std::vector<DatoDeRespuesta> datos;
-      DBusMessageIter donde;
-      if (dbus_message_iter_init(mensaje.get(), &donde) != 0) leer(donde, datos);
+      auto datos = datosDelMensaje(mensaje.get());
       auto* const texto = datos.empty() ? nullptr : std::get_if<std::string>(&datos.front());
       if (texto != nullptr) return std::move(*texto);
     }

@@ -55,7 +55,7 @@ std::vector<Ventana> recoger(Nodo const& raiz) {
     auto const id = numero(nodo, "id");
     // A window of X says itself whose it is.
     auto const pid = texto(nodo, "shell") == "xwayland" ? 0 : numero(nodo, "pid");
-    if (id > 0 && pid > 0) {
+    if (id > 0 && pid > 0 && std::in_range<pid_t>(pid)) {
       ventanas.push_back({static_cast<std::uint64_t>(id), static_cast<pid_t>(pid), texto(nodo, "name"),
                           cierto(nodo, "focused")});
     }

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdlib>
 #include <thread>
+#include <utility>
 
 #include "ZorvePlatform/Posix/Hogar.h"
 #include "ZorvePlatform/Posix/Variable.h"
@@ -74,7 +75,7 @@ std::vector<VentanaDeKWin> ventanasDeLaRespuesta(std::string_view respuesta) {
     auto const mal = una["id"].get(nombre) != simdjson::SUCCESS || una["pid"].get(pid) != simdjson::SUCCESS ||
                      una["name"].get(titulo) != simdjson::SUCCESS ||
                      una["focused"].get(enfocada) != simdjson::SUCCESS;
-    if (mal || !esNombre(nombre)) continue;
+    if (mal || !esNombre(nombre) || !std::in_range<pid_t>(pid)) continue;
     ventanas.push_back({std::string{nombre}, {0, static_cast<pid_t>(pid), std::string{titulo}, enfocada}});
   }
   return ventanas;

@@ -5,19 +5,19 @@
 #include <csignal>
 #include <expected>
 #include <functional>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
-#include "ZorveCore/Texto/Entero.h"
 #include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
 #include "ZorvePlatform/Posix/Flujo.h"
 #include "ZorvePlatform/Posix/ProcesoHijo.h"
 #include "ZorveTerminal/Abrir.h"
 #include "ZorveTerminal/Enfocar.h"
 #include "ZorveTerminal/EnfocarTmux.h"
+#include "ZorveTerminal/Orden.h"
 #include "ZorveTerminal/VentanasDeGnome.h"
 
 namespace {
@@ -50,19 +50,20 @@ int quejarse(std::string const& mensaje, int codigo) {
   return codigo;
 }
 
-int mostrarAyuda() {
+int hacer(PedirAyuda const& /*nada*/) {
   std::string texto{ayuda};
   for (auto const& ficha : fichasDeLinux()) texto += " " + ficha.identificador;
   (void)escribirTodo(STDOUT_FILENO, texto + "\n");
   return 0;
 }
 
-int abrirVentana(std::span<std::string const> args) {
-  if (args.size() != 3)
-    return quejarse("open takes a terminal, a directory and a command line", usoIncorrecto);
-  auto const* const ficha = fichaDeLinux(args[0]);
-  if (ficha == nullptr) return quejarse("unknown terminal: " + args[0], usoIncorrecto);
-  auto const resultado = abrir(*ficha, args[1], args[2], entornoDelProceso());
+int hacer(PedirVersion const& /*nada*/) {
+  (void)escribirTodo(STDOUT_FILENO, "zorve-terminal " ZORVE_VERSION "\n");
+  return 0;
+}
+
+int hacer(PedirAbrir const& pedido) {
+  auto const resultado = abrir(*pedido.ficha, pedido.directorio, pedido.orden, entornoDelProceso());
   return resultado ? 0 : quejarse(resultado.error().mensaje, resultado.error().codigo);
 }
 
@@ -80,33 +81,13 @@ int enfocadoConPlazo(std::function<std::expected<void, std::string>()> const& en
   return resultado ? 0 : quejarse(resultado.error(), 1);
 }
 
-/// The process number that stands there, or that none does; nothing for anything else.
-std::optional<std::optional<pid_t>> procesoEn(std::span<std::string const> args, std::size_t donde) {
-  if (args.size() <= donde) return std::make_optional(std::optional<pid_t>{});
-  auto const pid = enteroEn<pid_t>(args[donde]);
-  if (!pid || *pid <= 0) return std::nullopt;
-  return std::make_optional(pid);
+int hacer(PedirEnfocarTmux const& pedido) {
+  return enfocadoConPlazo(
+      [&] { return enfocarEnTmux(pedido.tty, pedido.elegida, entornoDelProceso(), pedido.pid); });
 }
 
-int enfocarPaneDeTmux(std::span<std::string const> args) {
-  auto const pid = procesoEn(args, 2);
-  if (args.empty() || args.size() > 3 || !pid) {
-    return quejarse("focus tmux takes a tty, a terminal and a process number", usoIncorrecto);
-  }
-  auto const* const elegida = args.size() > 1 ? fichaDeLinux(args[1]) : nullptr;
-  if (args.size() > 1 && elegida == nullptr) return quejarse("unknown terminal: " + args[1], usoIncorrecto);
-  return enfocadoConPlazo([&] { return enfocarEnTmux(args[0], elegida, entornoDelProceso(), *pid); });
-}
-
-int enfocarVentana(std::span<std::string const> args) {
-  if (!args.empty() && args[0] == "tmux") return enfocarPaneDeTmux(args.subspan(1));
-  auto const pid = procesoEn(args, 2);
-  if (args.size() < 2 || args.size() > 3 || !pid) {
-    return quejarse("focus takes a terminal, a tty and a process number", usoIncorrecto);
-  }
-  auto const* const ficha = fichaDeLinux(args[0]);
-  if (ficha == nullptr) return quejarse("unknown terminal: " + args[0], usoIncorrecto);
-  return enfocadoConPlazo([&] { return enfocar(*ficha, args[1], *pid); });
+int hacer(PedirEnfocar const& pedido) {
+  return enfocadoConPlazo([&] { return enfocar(*pedido.ficha, pedido.tty, pedido.pid); });
 }
 
 std::string_view nombreDe(SesionGrafica sesion) {
@@ -114,21 +95,15 @@ std::string_view nombreDe(SesionGrafica sesion) {
   return nombres.at(static_cast<std::size_t>(sesion));
 }
 
-int decirElEscritorio() {
+int hacer(PedirEscritorio const& /*nada*/) {
   (void)escribirTodo(STDOUT_FILENO, std::string{nombreDe(sesionDeAhora())} + "\n");
   return 0;
 }
 
 int correr(std::span<std::string const> args) {
-  if (args.size() == 1 && args[0] == "--help") return mostrarAyuda();
-  if (args.size() == 1 && args[0] == "--version") {
-    (void)escribirTodo(STDOUT_FILENO, "zorve-terminal " ZORVE_VERSION "\n");
-    return 0;
-  }
-  if (args.size() == 1 && args[0] == "desktop") return decirElEscritorio();
-  if (!args.empty() && args[0] == "open") return abrirVentana(args.subspan(1));
-  if (!args.empty() && args[0] == "focus") return enfocarVentana(args.subspan(1));
-  return quejarse("wrong usage; see zorve-terminal --help", usoIncorrecto);
+  auto const orden = leerOrden(args);
+  if (!orden) return quejarse(orden.error(), usoIncorrecto);
+  return std::visit([](auto const& pedido) { return hacer(pedido); }, *orden);
 }
 
 /// Descriptors 0, 1 and 2 always lead somewhere, so that no other file ever takes their numbers.

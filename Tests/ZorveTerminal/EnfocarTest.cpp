@@ -65,6 +65,10 @@ TEST(VentanaDe, laPropiaValeAunqueUnProcesoMasCercanoTengaOtra) {
   EXPECT_EQ(ventanaDe(std::vector<Ventana>{{7, 30}, {1, 10}}, ascendencia_, 1), 1U);
 }
 
+TEST(VentanasDelArbol, unProcesoQueNoCabeEnElTipoNoPasaPorOtro) {
+  EXPECT_TRUE(ventanasDelArbol(R"({"id":1,"pid":4294967303,"name":"a","focused":true})").empty());
+}
+
 TEST(VentanasDelArbol, loQueNoSeEntiendeNoTieneVentanas) {
   for (auto const* const texto : {"", "{", "[]", "7", "{\"id\":\"x\",\"pid\":1}", "{\"nodes\":{}}"}) {
     EXPECT_TRUE(ventanasDelArbol(texto).empty()) << texto;

@@ -18,6 +18,10 @@ TEST(VentanasDeLaRespuesta, unNombreQueNoEsDeKWinNoEntraEnNingunGuion) {
   }
 }
 
+TEST(VentanasDeLaRespuesta, unProcesoQueNoCabeEnElTipoNoPasaPorOtro) {
+  EXPECT_TRUE(ventanasDeLaRespuesta(R"([{"id":"{1}","pid":4294967303,"name":"a","focused":true}])").empty());
+}
+
 TEST(VentanasDeLaRespuesta, loQueNoSeEntiendeNoTieneVentanas) {
   for (auto const* const texto :
        {"", "{", "{}", "7", "[7]", R"([{"id":"{1}"}])", R"([{"id":1,"pid":"x"}])"}) {
