@@ -1,6 +1,8 @@
 #include "ZorveApp/ModeloDeAjustes.h"
 
+#include <functional>
 #include <stdexcept>
+#include <vector>
 
 #include "MesaDeAjustes.h"
 
@@ -170,6 +172,66 @@ TEST_F(ModeloDeAjustesTest, deDosEleccionesSeguidasQuedaLaUltimaCorraQuienCorraP
   }
   EXPECT_EQ(eleccionGuardada(preferencias), "com.dos");
   EXPECT_EQ(*modelo->eleccion(), "com.dos");
+}
+
+/// Settings of which one call, counted from 1, fails.
+class PreferenciasQueFallan final : public Preferencias {
+ public:
+  explicit PreferenciasQueFallan(int cual) : cual_{cual} {}
+  [[nodiscard]] std::expected<std::optional<Valor>, IndexError> leer(
+      std::string const& clave) const override {
+    if (toca()) return std::unexpected{fallo};
+    return verdaderas_.leer(clave);
+  }
+  [[nodiscard]] std::expected<void, IndexError> escribir(std::string const& clave,
+                                                         Valor const& valor) override {
+    if (toca()) return std::unexpected{fallo};
+    return verdaderas_.escribir(clave, valor);
+  }
+  [[nodiscard]] std::expected<void, IndexError> quitar(std::string const& clave) override {
+    if (toca()) return std::unexpected{fallo};
+    return verdaderas_.quitar(clave);
+  }
+  [[nodiscard]] int llamadas() const { return llamadas_; }
+
+  IndexError const fallo{IndexSource::launcher, "the disk went away"};
+
+ private:
+  bool toca() const { return ++llamadas_ == cual_; }
+
+  dobles::PreferenciasEnMemoria verdaderas_;
+  int cual_;
+  mutable int llamadas_ = 0;
+};
+
+TEST_F(ModeloDeAjustesTest, enCualquierLlamadaUnFalloDeLasPreferenciasSeDiceYTrasElTodoSigue) {
+  for (int cual = 1;; ++cual) {
+    PreferenciasQueFallan rotas{cual};
+    PreferenciaDeIdioma lengua{rotas};
+    ModeloDeAjustes otro{{.terminales = {.conocidas = conocidas,
+                                         .sistema = [] { return RespuestaDelSistema{"com.uno"}; },
+                                         .eleccion = [&] { return leerLaEleccion(rotas); }},
+                          .preferencias = rotas,
+                          .inicio = inicio,
+                          .idioma = lengua,
+                          .despachador = despachador}};
+    bool dicho = rotas.llamadas() == cual;
+    for (auto const& paso : std::vector<std::function<void()>>{
+             [&] { otro.cargar(); }, [&] { otro.elegirTerminal("com.dos"); },
+             [&] { otro.elegirIdioma(Idioma::es); }, [&] { otro.elegirTerminal(std::nullopt); }}) {
+      paso();
+      despachador.correrTodo();
+      dicho |= *otro.fallo() == FalloDeAjustes{Caso::deNucleo, "the disk went away"};
+    }
+    if (rotas.llamadas() < cual) break;
+    EXPECT_TRUE(dicho) << "call " << cual;
+    otro.elegirIdioma(Idioma::en);
+    otro.elegirTerminal("com.dos");
+    despachador.correrTodo();
+    EXPECT_EQ(*otro.fallo(), std::nullopt) << "call " << cual;
+    EXPECT_EQ(*otro.eleccion(), "com.dos") << "call " << cual;
+    ASSERT_LT(cual, 100);
+  }
 }
 
 TEST_F(ModeloDeAjustesTest, alternarElArranqueLoEnciendeYLoApaga) {

@@ -271,5 +271,48 @@ TEST_F(LauncherTest, enLinuxSeReconocePorElNombreDelProceso) {
   EXPECT_EQ(linux.plan(viva()).value(), esperado);
 }
 
+/// Passes calls on, but for one of them, counted from 1.
+class EjecutorQueFalla final : public Ejecutor {
+ public:
+  EjecutorQueFalla(Ejecutor const& verdadero, int cual, EjecutorGuionado::Respuesta enSuLugar)
+      : verdadero_{verdadero}, cual_{cual}, enSuLugar_{std::move(enSuLugar)} {}
+  [[nodiscard]] std::expected<ResultadoDeEjecucion, FalloDelSistema> correr(
+      std::string const& ruta, std::span<std::string const> args) const override {
+    if (++llamadas == cual_) return enSuLugar_;
+    return verdadero_.correr(ruta, args);
+  }
+  mutable int llamadas = 0;
+
+ private:
+  Ejecutor const& verdadero_;
+  int cual_;
+  EjecutorGuionado::Respuesta enSuLugar_;
+};
+
+TEST_F(LauncherTest, enCualquierLlamadaUnFalloDePsDaSuPlanOSuFallo) {
+  ps.proceso(100, 90, "claude", "ttys001").proceso(90, 80, "-zsh").proceso(80, 1, enITerm);
+  auto const deITerm = *iterm()->planParaEnfocar("ttys001");
+  auto const deLaElegida = *apple()->planParaEnfocar("ttys001");
+  std::vector<EjecutorGuionado::Respuesta> const respuestas{
+      std::unexpected{FalloDelSistema{ENOMEM, "no memory"}}, ResultadoDeEjecucion{1, ""},
+      ResultadoDeEjecucion{137, "Killed"}, ResultadoDeEjecucion{0, "\xFF\xFE garbage\n"}};
+  for (auto const& enSuLugar : respuestas) {
+    bool const basura = enSuLugar && enSuLugar->codigo == 0;
+    for (int cual = 1; cual <= 5; ++cual) {
+      EjecutorQueFalla const roto{ps, cual, enSuLugar};
+      auto lanzador = Launcher{apple(), roto, EjecutorGuionado::rutaPs, soloLasConocidas(conocidas, nullptr)};
+      auto const plan = lanzador.plan(viva());
+      EXPECT_LE(roto.llamadas, 4);
+      if (cual == 1 && !basura) {
+        EXPECT_FALSE(plan);
+        continue;
+      }
+      ASSERT_TRUE(plan) << cual;
+      if (cual == 1) continue;
+      EXPECT_EQ(*plan, cual > 4 ? deITerm : deLaElegida) << cual;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace zorve

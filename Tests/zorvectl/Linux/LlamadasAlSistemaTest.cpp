@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -115,6 +116,55 @@ TEST_F(LlamadasAlSistema, sinDescriptoresNiDiscoSeDiceEnUnaLinea) {
   EXPECT_THAT(sinDescriptores.error, testing::HasSubstr("Could not open " + hogar.ruta() +
                                                         "/.claude/history.jsonl: Too many open files"));
   EXPECT_THAT(sinDescriptores.salida, testing::HasSubstr("Una"));
+}
+
+/// The settings as they are on the disk.
+std::string contenido(std::string const& archivo) {
+  std::ifstream entrada{archivo};
+  return {std::istreambuf_iterator<char>{entrada}, {}};
+}
+
+TEST_F(LlamadasAlSistema, unaSenalAntesDeCualquierLlamadaDejaLosAjustesEnteros) {
+  auto const archivo = hogar.carpeta().dentro("conf/com.sarnol.zorve/preferences.json");
+  std::string const viejos = "{\"ajena\":[1,2.50]}";
+  std::string const nuevos =
+      "{\n  \"ajena\": [\n    1,\n    2.50\n  ],\n  \"zorve.terminalElegida\": \"xterm\"\n}\n";
+  std::size_t viejosQueQuedan = 0;
+  for (int cual = 1;; ++cual) {
+    hogar.carpeta().escribir("conf/com.sarnol.zorve/preferences.json", viejos);
+    auto const corrida =
+        trazado({"-e", "trace=%file,write,fsync,flock,close", "-e",
+                 "inject=%file,write,fsync,flock,close:signal=TERM:when=" + std::to_string(cual)},
+                {"choose", "xterm"});
+    auto const quedan = contenido(archivo);
+    EXPECT_TRUE(quedan == viejos || quedan == nuevos) << "call " << cual << ": " << quedan;
+    viejosQueQuedan += quedan == viejos ? 1U : 0U;
+    if (corrida.codigo == 0) break;
+    ASSERT_LT(cual, 1000);
+  }
+  EXPECT_GT(viejosQueQuedan, 30U) << "the signal came too late to tell anything";
+}
+
+TEST_F(LlamadasAlSistema, unFalloDeCualquierLlamadaEsUnaFraseYDejaLosAjustesEnteros) {
+  auto const archivo = hogar.carpeta().dentro("conf/com.sarnol.zorve/preferences.json");
+  std::string const viejos = "{\"ajena\":1}";
+  auto const cerrojo = hogar.carpeta().dentro("conf/com.sarnol.zorve/preferences.lock");
+  for (std::string const llamada : {"openat", "write", "fsync", "flock", "rename"}) {
+    for (std::string const causa : {"EIO", "ENOSPC", "EMFILE"}) {
+      hogar.carpeta().escribir("conf/com.sarnol.zorve/preferences.json", viejos);
+      std::vector<std::string> opciones{"-e", "trace=" + llamada, "-e",
+                                        "inject=" + llamada + ":error=" + causa + ":when=1"};
+      if (llamada == "openat") opciones.insert(opciones.end(), {"-P", archivo, "-P", cerrojo});
+      auto const corrida = trazado(opciones, {"choose", "xterm"});
+      EXPECT_THAT(lineas(), testing::Contains(testing::HasSubstr("(INJECTED)"))) << llamada;
+      EXPECT_TRUE(corrida.codigo == 0 || corrida.codigo == 1) << llamada << " " << causa;
+      auto const quedan = contenido(archivo);
+      EXPECT_TRUE(quedan.contains("\"ajena\"")) << llamada << " " << causa << ": " << quedan;
+      if (corrida.codigo == 0) continue;
+      EXPECT_EQ(quedan, viejos) << llamada << " " << causa;
+      EXPECT_EQ(std::ranges::count(corrida.error, '\n'), 1) << corrida.error;
+    }
+  }
 }
 
 }  // namespace
