@@ -119,6 +119,7 @@ std::expected<void, IndexError> PreferenciasLinux::cambiar(std::string const& cl
   auto const cerrojo = tomarCerrojo(rutaDelCerrojo, plazo_);
   if (!cerrojo && cerrojo.error().codigo == EWOULDBLOCK) return estaTomado(archivo_, rutaDelCerrojo);
   if (!cerrojo) return noSeGuarda(archivo_, cerrojo.error());
+  quitarRestos(archivo_);
   auto const texto = textoDe(archivo_);
   if (!texto) return std::unexpected{texto.error()};
   auto const nuevo = conValorEnObjetoJson(*texto, clave, valor, tope);

@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <vector>
 
 #include "ZorvePlatform/Posix/Descriptor.h"
 #include "ZorvePlatform/Posix/Flujo.h"
@@ -15,6 +16,9 @@
 namespace zorve {
 
 namespace {
+
+/// Between the name of a file and what tells its replacement from others.
+constexpr char const* marcaDePaso = ".zorve-";
 
 using Resultado = std::expected<void, FalloDelSistema>;
 
@@ -55,7 +59,7 @@ void sincronizarCarpeta(std::filesystem::path const& carpeta) {
 std::expected<void, FalloDelSistema> reemplazarArchivo(std::string const& ruta, std::string_view contenido) {
   auto const destino = destinoDe(ruta);
   if (!destino) return std::unexpected{destino.error()};
-  auto temporal = destino->string() + ".XXXXXX";
+  auto temporal = destino->string() + marcaDePaso + "XXXXXX";
   Descriptor const descriptor{::mkstemp(temporal.data())};
   if (!descriptor) return errnoSiNo(false);
   auto resultado = llenar(descriptor.numero(), contenido);
@@ -63,6 +67,19 @@ std::expected<void, FalloDelSistema> reemplazarArchivo(std::string const& ruta, 
   if (!resultado) ::unlink(temporal.c_str());
   if (resultado) sincronizarCarpeta(destino->parent_path());
   return resultado;
+}
+
+void quitarRestos(std::string const& ruta) {
+  auto const destino = destinoDe(ruta);
+  if (!destino) return;
+  auto const principio = destino->filename().string() + marcaDePaso;
+  std::error_code error;
+  std::vector<std::filesystem::path> restos;
+  for (std::filesystem::directory_iterator una{destino->parent_path(), error}, fin; !error && una != fin;
+       una.increment(error)) {
+    if (una->path().filename().string().starts_with(principio)) restos.push_back(una->path());
+  }
+  for (auto const& resto : restos) ::unlink(resto.c_str());
 }
 
 }  // namespace zorve

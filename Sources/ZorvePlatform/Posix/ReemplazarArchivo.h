@@ -14,4 +14,8 @@ namespace zorve {
 [[nodiscard]] std::expected<void, FalloDelSistema> reemplazarArchivo(std::string const& ruta,
                                                                      std::string_view contenido);
 
+/// Takes away what replacements of `ruta` have left that were ended half way. For a caller that nobody
+/// replaces it beside. What cannot be taken away stays.
+void quitarRestos(std::string const& ruta);
+
 }  // namespace zorve

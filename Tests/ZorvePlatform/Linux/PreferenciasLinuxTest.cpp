@@ -259,6 +259,16 @@ TEST_F(PreferenciasLinuxTest, trasUnGuardadoFallidoNoQuedaElArchivoDePaso) {
   EXPECT_THAT(nombresEn(carpeta.dentro("c")), ElementsAre("p.json", "preferences.lock"));
 }
 
+TEST_F(PreferenciasLinuxTest, loQueDejoUnGuardadoQueMurioSeQuitaEnElSiguienteYLoAjenoQueda) {
+  conArchivo("{}");
+  carpeta.escribir("c/p.json.zorve-Ab3dEf", "{");
+  carpeta.escribir("c/p.json.backup", "{}");
+  carpeta.escribir("c/otra.json.zorve-Ab3dEf", "{}");
+  ASSERT_TRUE(preferencias.escribir("a", true).has_value());
+  EXPECT_THAT(nombresEn(carpeta.dentro("c")),
+              ElementsAre("otra.json.zorve-Ab3dEf", "p.json", "p.json.backup", "preferences.lock"));
+}
+
 TEST_F(PreferenciasLinuxTest, unaColaEnSuLugarNoBloquea) {
   carpeta.carpeta("c");
   ASSERT_EQ(::mkfifo(archivo.c_str(), 0600), 0);
