@@ -47,21 +47,34 @@ class Redactor {
   std::vector<DatoDeRespuesta> esperados;
 
   void valores(int cuantos, int hondo) {
-    for (int i = 0; i < cuantos && !bytes_.vacios(); ++i) valor(tipo(hondo), hondo);
+    std::size_t largo = 0;
+    for (int i = 0; i < cuantos && !bytes_.vacios(); ++i) {
+      auto const suyo = tipo(hondo);
+      if (largo += suyo.size(); largo > firmaComoMucho) return;
+      valor(suyo, hondo);
+    }
   }
 
  private:
   static constexpr std::string_view simples = "bixtsogydnqu";
+  /// A signature has 255 bytes at most (D-Bus Specification, "Valid Signatures"); nobody sends a longer one.
+  static constexpr std::size_t firmaComoMucho = 250;
 
-  /// A complete type: a simple one, or a container of them.
+  /// A complete type that a signature has room for.
   std::string tipo(int hondo) {
+    auto entero = cualquierTipo(hondo);
+    return entero.size() > firmaComoMucho ? "i" : entero;
+  }
+
+  /// A simple type, or a container of them.
+  std::string cualquierTipo(int hondo) {
     auto const cual = bytes_.uno();
     std::string const simple{simples[cual / 8 % simples.size()]};
     if (hondo > 8) return simple;
     if (cual % 8 == 0) return "v";
-    if (cual % 8 == 1) return "a" + tipo(hondo + 1);
-    if (cual % 8 == 2) return "(" + tipo(hondo + 1) + tipo(hondo + 1) + ")";
-    if (cual % 8 == 3) return "a{" + simple + tipo(hondo + 1) + "}";
+    if (cual % 8 == 1) return "a" + cualquierTipo(hondo + 1);
+    if (cual % 8 == 2) return "(" + cualquierTipo(hondo + 1) + cualquierTipo(hondo + 1) + ")";
+    if (cual % 8 == 3) return "a{" + simple + cualquierTipo(hondo + 1) + "}";
     return simple;
   }
 

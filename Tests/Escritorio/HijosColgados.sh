@@ -24,9 +24,9 @@ cuelga() { grep -q 'execve("'"$1"'"' "$casa/trazas"; }
 suelta() {
   local cada
   for cada in $(pgrep -f "strace -D -f -qq -o $casa/trazas" || :); do kill -9 "$cada" 2>/dev/null || :; done
-  for cada in $(awk '{ print $1 }' "$casa/trazas" | sort -u); do
+  while read -r cada; do
     [ "$cada" = "$zorve_pid" ] || kill -9 "$cada" 2>/dev/null || :
-  done
+  done < <(awk '{ print $1 }' "$casa/trazas" | sort -u)
 }
 en_menos_de_dos_segundos() {
   local fin=$((SECONDS + 2))

@@ -60,6 +60,14 @@ TEST(Aguja, detrasDelFinNoHayNada) {
   EXPECT_EQ(titulo.ultima(""), Aguja::nada);
 }
 
+TEST(Aguja, loQueAcabaDetrasDelBloqueNoEstaEnEl) {
+  std::string_view constexpr entero = "x aiTitle";
+  for (std::size_t largo = 0; largo < entero.size(); ++largo) {
+    EXPECT_EQ(titulo.primera(entero.substr(0, largo)), Aguja::nada) << largo;
+    EXPECT_EQ(titulo.ultima(entero.substr(0, largo)), Aguja::nada) << largo;
+  }
+}
+
 TEST(Aguja, enBytesAlAzarHallaLoMismoQueElTexto) {
   std::mt19937 azar{7};
   std::string_view constexpr alfabeto = "aiTtle\"cwd\n";
