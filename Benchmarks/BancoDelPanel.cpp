@@ -114,7 +114,8 @@ struct Panel {
     letras += vista.marcador() ? 1U : 0U;
     for (std::size_t i = 0; i < std::min(filasALaVista, vista.cantidadDeFilas()); ++i) {
       auto const fila = vista.fila(i);
-      letras += fila.titulo.size() + fila.lineaDeRuta().size() + fila.tiempo.size();
+      letras += fila.titulo.size() + fila.lineaDeRuta().size() + fila.tiempo.size() +
+                fila.marcasDeTitulo.size() + fila.marcasDeRuta.size();
     }
     return letras + vista.filaSeleccionada().value_or(0);
   }

@@ -58,6 +58,9 @@ class ModeloDeVista {
   /// The positions in `resultado()->sesiones` of the sessions that the search keeps, in order. Valid until
   /// the next write.
   [[nodiscard]] std::span<std::size_t const> visibles() const { return lista_.visibles(); }
+  /// The search text's words, folded by `regla`. Valid until the next write.
+  [[nodiscard]] std::span<std::string const> fichas() const { return lista_.fichas(); }
+  [[nodiscard]] ReglaDePlegado regla() const { return lista_.regla(); }
   /// Where the selection stands in `visibles()`, or nothing.
   [[nodiscard]] std::optional<std::size_t> posicionSeleccionada() const;
   /// The selected session if the search shows it, else null. Valid until the next write.

@@ -79,7 +79,15 @@ Fila PanelView::fila(std::size_t posicion) const {
           .tiempo = relativo(de.ultimaActividad, reloj_(), t.ahora),
           .conteo = conteoDe(de, t),
           .estado = de.liveState,
-          .seleccionada = seleccionada};
+          .seleccionada = seleccionada,
+          .marcasDeTitulo = tramosDe(de.titulo, modelo_.fichas(), modelo_.regla()),
+          .marcasDeRuta = enLoAbreviado(tramosDe(de.cwd, modelo_.fichas(), modelo_.regla()), de.cwd, home_)};
+}
+
+std::string PanelView::trozoDelPrompt(std::size_t posicion) const {
+  auto const& de = sesion(posicion);
+  if (!de.ultimoPrompt || modelo_.fichas().empty()) return {};
+  return trozoQueCoincide(de.titulo, de.cwd, *de.ultimoPrompt, modelo_.fichas(), modelo_.regla());
 }
 
 std::optional<std::size_t> PanelView::filaSeleccionada() const { return modelo_.posicionSeleccionada(); }

@@ -12,6 +12,7 @@
 #include "ZorveApp/EstadoDelPanel.h"
 #include "ZorveApp/ModeloDeVista.h"
 #include "ZorveApp/Teclado.h"
+#include "ZorveCore/Texto/Coincidencias.h"
 
 namespace zorve {
 
@@ -30,6 +31,9 @@ struct Fila {
   std::optional<std::string> conteo;
   LiveState estado = LiveState::dead;
   bool seleccionada = false;
+  /// What the search found in `titulo` and in `ruta`, in bytes of each; empty without a search.
+  std::vector<Tramo> marcasDeTitulo;
+  std::vector<Tramo> marcasDeRuta;
 
   /// The second line as one text: the path and, for a live session, " · " and the live word.
   [[nodiscard]] std::string lineaDeRuta() const;
@@ -86,6 +90,9 @@ class PanelView {
   [[nodiscard]] std::size_t cantidadDeFilas() const;
   /// The content of row `posicion`, below `cantidadDeFilas()`.
   [[nodiscard]] Fila fila(std::size_t posicion) const;
+  /// For a row that is there by its last prompt alone: the piece of that prompt around what was found. Empty
+  /// for others.
+  [[nodiscard]] std::string trozoDelPrompt(std::size_t posicion) const;
   /// `Session::id` of row `posicion`: the key by which rows are the same from one list to the next.
   [[nodiscard]] std::string idDeFila(std::size_t posicion) const;
   /// The row to keep in sight.

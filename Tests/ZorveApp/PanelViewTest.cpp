@@ -313,5 +313,27 @@ TEST_F(PanelViewTest, cienMilSesionesNoCuestanHastaQueSeDibujan) {
   EXPECT_EQ(panel.fila(99'999).id, "claude:a");
 }
 
+TEST_F(PanelViewTest, loQueCoincideSeMarcaEnElTituloYEnElDirectorio) {
+  cargar({sesionDe("a", "Señales del parser", "/Users/ana/src/senales")});
+  panel.escribirConsulta("SEÑAL ana");
+  auto const fila = panel.fila(0);
+  EXPECT_EQ(fila.marcasDeTitulo, (std::vector<Tramo>{{0, 6}}));
+  EXPECT_EQ(fila.marcasDeRuta, (std::vector<Tramo>{{0, 1}, {6, 11}}));
+  panel.escribirConsulta("");
+  EXPECT_TRUE(panel.fila(0).marcasDeTitulo.empty());
+  EXPECT_TRUE(panel.fila(0).marcasDeRuta.empty());
+}
+
+TEST_F(PanelViewTest, laFilaQueEstaPorSuUltimoPromptMuestraDondeCoincide) {
+  auto sesion = sesionDe("a", "una");
+  sesion.ultimoPrompt = "compila y prueba todo";
+  cargar({sesion});
+  EXPECT_EQ(panel.trozoDelPrompt(0), "");
+  panel.escribirConsulta("PRUEBA");
+  EXPECT_EQ(panel.trozoDelPrompt(0), "compila y prueba todo");
+  panel.escribirConsulta("una");
+  EXPECT_EQ(panel.trozoDelPrompt(0), "");
+}
+
 }  // namespace
 }  // namespace zorve

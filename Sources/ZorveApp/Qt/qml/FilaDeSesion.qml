@@ -13,6 +13,8 @@ Item {
     required property string tiempo
     required property string conteo
     required property int estado
+    required property var marcasDeTitulo
+    required property var marcasDeRuta
     property bool seleccionada: false
     property bool conLinea: true
     signal pulsada
@@ -48,7 +50,7 @@ Item {
         height: Medidas.altoDeTitulo
         clip: true
 
-        Letrero {
+        LetreroMarcado {
             id: letreroDeTitulo
             width: parent.width
             y: letreroDeTiempo.y + letreroDeTiempo.baselineOffset - lineaDeTitulo.y - baselineOffset
@@ -57,11 +59,12 @@ Item {
             elide: Text.ElideRight
             horizontalAlignment: Text.AlignLeft
             font { pointSize: Estilo.letraDeTitulo; weight: Font.Medium }
-            color: Estilo.textoAlto
+            tinta: Estilo.textoAlto
+            marcas: fila.marcasDeTitulo
         }
     }
 
-    Letrero {
+    LetreroMarcado {
         id: letreroDeRuta
         anchors { left: lineaDeTitulo.left; baseline: letreroDeConteo.baseline }
         width: Math.min(implicitWidth, letreroDeConteo.x - Medidas.huecoDeFila - x - letreroDePalabra.width)
@@ -70,7 +73,8 @@ Item {
         elide: Text.ElideMiddle
         horizontalAlignment: Text.AlignLeft
         font { family: Estilo.fija; pointSize: Estilo.letraDeRuta }
-        color: Estilo.textoTenue
+        tinta: Estilo.textoTenue
+        marcas: fila.marcasDeRuta
     }
 
     Letrero {

@@ -1,0 +1,36 @@
+import QtQuick
+import Zorve.Tipos
+
+// A line of text in which what was searched for is drawn in the accent colour: each piece is the line itself, seen
+// through a window as wide as the piece.
+Letrero {
+    id: entero
+
+    property color tinta: Estilo.texto
+    // Two numbers a mark, where it begins and ends in UTF-16 units.
+    property var marcas: []
+    readonly property bool conMarcas: (marcas?.length ?? 0) > 0
+    readonly property var cortado: conMarcas ? Piezas.de(text, font, width, truncated ? elide : Text.ElideNone, marcas) : ({ texto: "", piezas: [] })
+
+    color: conMarcas ? "transparent" : tinta
+
+    Repeater {
+        model: entero.cortado.piezas
+        delegate: Item {
+            id: pieza
+            required property var modelData
+
+            x: modelData.x
+            width: modelData.ancho
+            height: entero.height
+            clip: true
+
+            Letrero {
+                x: -pieza.x
+                text: entero.cortado.texto
+                font: entero.font
+                color: pieza.modelData.marcada ? Estilo.acento : entero.tinta
+            }
+        }
+    }
+}
