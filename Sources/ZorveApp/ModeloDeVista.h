@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -15,6 +16,7 @@
 #include "ZorveApp/ListaFiltrada.h"
 #include "ZorveApp/Observable.h"
 #include "ZorveApp/Portapapeles.h"
+#include "ZorveCore/Lectura/Directorios.h"
 
 namespace zorve {
 
@@ -29,6 +31,8 @@ struct ColaboradoresDelModelo {
   Despachador& despachador;
   PreferenciaDeIdioma const& idioma;
   ReglaDePlegado regla = ReglaDePlegado::general;
+  /// Where directories are looked for; nowhere when null. It outlives every task.
+  Directorios* directorios = nullptr;
 };
 
 /// The state behind the panel. Main thread only; loading, resolving, planning and running happen in the
@@ -49,6 +53,8 @@ class ModeloDeVista {
   [[nodiscard]] Observable<std::optional<std::string>> const& avisoDeApertura() const { return aviso_; }
   /// A second line after that one: what can be done about it.
   [[nodiscard]] Observable<std::optional<std::string>> const& consejo() const { return consejo_; }
+  /// The directories of sessions that were found to be gone after the last load.
+  [[nodiscard]] Observable<std::set<std::string>> const& directoriosPerdidos() const { return perdidos_; }
   [[nodiscard]] Observable<bool> const& refrescando() const { return refrescando_; }
   [[nodiscard]] Observable<std::optional<TerminalResuelta>> const& terminal() const { return terminal_; }
   [[nodiscard]] Observable<std::optional<std::string>> const& errorDeTerminal() const {
@@ -84,6 +90,9 @@ class ModeloDeVista {
   void abrirSeleccionada();
   /// Copies the selected session's identifier (its directory when it has none) and says so.
   void copiarIdentificador();
+  /// The same with the line that resumes the selected session from any shell; nothing without such a line.
+  void copiarComando();
+  void copiarDirectorio();
 
   /// `observador` is called after each change of any property, until the subscriptions end.
   [[nodiscard]] std::vector<Suscripcion> observar(std::function<void()> const& observador) const;
@@ -94,6 +103,9 @@ class ModeloDeVista {
   void terminarCarga(Carga carga);
   void terminarApertura(ResultadoDeApertura resultado);
   void ponerResultado(IndexResult nuevo, TextosPlegados plegados);
+  void copiar(std::string const& valor);
+  void mirarDirectorios();
+  void terminarMirada(std::set<std::string> perdidos);
   void corregirSeleccion();
   void escribirSeleccion(std::optional<std::size_t> fila);
 
@@ -108,6 +120,9 @@ class ModeloDeVista {
   Observable<bool> refrescando_;
   Observable<std::optional<TerminalResuelta>> terminal_;
   Observable<std::optional<std::string>> errorTerminal_;
+  Observable<std::set<std::string>> perdidos_;
+  /// At most one look at the directories goes on at a time.
+  bool mirando_ = false;
   std::shared_ptr<ModeloDeVista*> vida_ = std::make_shared<ModeloDeVista*>(this);
 };
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "ZorveApp/EstadoDelPanel.h"
+#include "ZorveApp/MenuDeFila.h"
 #include "ZorveApp/ModeloDeVista.h"
 #include "ZorveApp/Teclado.h"
 #include "ZorveCore/Texto/Coincidencias.h"
@@ -34,6 +35,8 @@ struct Fila {
   /// What the search found in `titulo` and in `ruta`, in bytes of each; empty without a search.
   std::vector<Tramo> marcasDeTitulo;
   std::vector<Tramo> marcasDeRuta;
+  /// The help text of a directory that is gone, whose path is struck through; nothing for others.
+  std::optional<std::string> directorioPerdido;
 
   /// The second line as one text: the path and, for a live session, " · " and the live word.
   [[nodiscard]] std::string lineaDeRuta() const;
@@ -60,6 +63,8 @@ struct EntradaDeLeyenda {
 struct AccionesDelPanel {
   std::function<void()> esconder = [] {};
   std::function<void()> salir = [] {};
+  /// Shows a directory in the system's file manager. Empty where there is none.
+  std::function<void(std::string const&)> mostrarDirectorio = {};
 };
 
 /// The panel as values, made from the model at each call, and the way of keys, clicks and the search text to
@@ -112,6 +117,11 @@ class PanelView {
   /// Selects the row and opens it.
   void clicEnFila(std::size_t posicion);
   void clicEnAjustes();
+  /// Selects the row, as its menu comes up over it. Gives the menu; nothing for a row that there is not.
+  std::vector<EntradaDelMenuDeFila> abrirMenuDeFila(std::size_t posicion);
+  /// What was chosen in the menu of the row with this `idDeFila`, wherever the row is by now. Does nothing
+  /// when it is gone.
+  void elegirEnElMenu(std::string_view id, EntradaDelMenuDeFila::Clase cual);
 
  private:
   [[nodiscard]] Textos textos() const { return textosDe(idioma_); }

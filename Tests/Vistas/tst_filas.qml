@@ -13,7 +13,7 @@ Item {
         id: fila
         FilaDeSesion {
             width: 440
-            index: 0; titulo: "Un título"; ayuda: ""; ruta: "~/src"; palabra: ""; tiempo: "5m"; conteo: "12 prompts"; estado: DatosDelPanel.Acabada; marcasDeTitulo: []; marcasDeRuta: []
+            index: 0; titulo: "Un título"; ayuda: ""; perdida: ""; ruta: "~/src"; palabra: ""; tiempo: "5m"; conteo: "12 prompts"; estado: DatosDelPanel.Acabada; marcasDeTitulo: []; marcasDeRuta: []
             onPulsada: caso.pulsadas++
         }
     }

@@ -40,7 +40,7 @@ Item {
         function llenar(cuantas) {
             filasDePrueba.clear()
             for (let i = 0; i < cuantas; i++) {
-                filasDePrueba.append({ titulo: "Sesión " + i, ayuda: "", ruta: "~/r", palabra: "", tiempo: "1h", conteo: "", estado: DatosDelPanel.Acabada, marcasDeTitulo: 0, marcasDeRuta: 0 })
+                filasDePrueba.append({ titulo: "Sesión " + i, ayuda: "", perdida: "", ruta: "~/r", palabra: "", tiempo: "1h", conteo: "", estado: DatosDelPanel.Acabada, marcasDeTitulo: 0, marcasDeRuta: 0 })
             }
         }
         function lista() { return findChild(vista, "filas") }

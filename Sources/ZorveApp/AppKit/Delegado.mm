@@ -42,7 +42,12 @@
 - (void)instalarAcciones {
   __weak Delegado* const debil = self;
   _con->panel.acciones = {.esconder = [debil] { [debil esconder]; },
-                          .salir = [] { [NSApplication.sharedApplication terminate:nil]; }};
+                          .salir = [] { [NSApplication.sharedApplication terminate:nil]; },
+                          .mostrarDirectorio =
+                              [](std::string const& ruta) {
+                                [NSWorkspace.sharedWorkspace
+                                    openURL:[NSURL fileURLWithPath:zorve::cadena(ruta)]];
+                              }};
   _ajustes.alCerrar = ^{
     [debil cerradosLosAjustes];
   };

@@ -10,6 +10,7 @@
 #include "ZorveApp/Qt/Puentes/Prestamo.h"
 #include "ZorveApp/Qt/Puentes/TextosPropios.h"
 #include "ZorveApp/Qt/Ventanas/ExtensionDeGnome.h"
+#include "ZorveApp/Qt/Ventanas/GestorDeArchivos.h"
 
 namespace zorve {
 
@@ -36,12 +37,17 @@ DelegadoQt::DelegadoQt(ColaboradoresDelDelegadoQt con)
       barra_{{[this](ClicEnLaBarra clic) { alClic(clic); },
               [this](EntradaDelMenu::Clase cual) { item_.elegir(cual); }, [this] { item_.reabrir(); }}},
       puente_{con.panel, con.idioma} {
-  con_.panel.acciones = {[this] { cerrarPanel(); }, [this] { item_.salir(); }};
+  con_.panel.acciones = {[this] { cerrarPanel(); },
+                         [this] { item_.salir(); },
+                         [this](std::string const& cual) {
+                           mostrarEnElGestorDeArchivos(cual, con_.activacion);
+                         }};
   con_.ajustes.acciones = {[this] { ventanaDeAjustes_->hide(); }, [this] { item_.salir(); }};
   minutero_.setInterval(pasoDelReloj);
   reposo_.setInterval(esperaDeReposo);
   reposo_.setSingleShot(true);
   connect(&reposo_, &QTimer::timeout, this, devolverMemoria);
+  connect(&puente_.datos(), &DatosDelPanel::menuPedido, this, &DelegadoQt::mostrarMenuDeFila);
   connect(&minutero_, &QTimer::timeout, &puente_, &PuenteDelPanel::actualizarTiempos);
   connect(&gustos_, &GustosDelEscritorio::cambio, this, &DelegadoQt::atenderGustos);
   idioma_ = con_.idioma.idioma().observar([this] { escribirMenu(); });
@@ -63,6 +69,8 @@ VentanaDelPanel& DelegadoQt::ventana() {
   preferirEmojiEnColor();
   ventana_ = std::make_unique<VentanaDelPanel>(
       *sistema_, [this](Pulsacion const& tecla) { return con_.panel.tecla(tecla); });
+  connect(ventana_.get(), &VentanaDelPanel::menuLlamado, &puente_.datos(), &DatosDelPanel::menuLlamado);
+  connect(ventana_.get(), &VentanaDelPanel::escondida, this, [this] { menuDeFila_.cerrar(); });
   connect(ventana_.get(), &VentanaDelPanel::escondida, &minutero_, &QTimer::stop);
   // Counted from the first of several quick showings, so that they leave no more behind than one does.
   connect(ventana_.get(), &VentanaDelPanel::escondida, &reposo_, [this] {
@@ -96,6 +104,16 @@ void DelegadoQt::atenderGustos() {
   estilo_.vestir(gustos);
   ventana().escribirEscala(gustos.escala);
   if (ventanaDeAjustes_) ventanaDeAjustes_->vestir(gustos);
+}
+
+void DelegadoQt::mostrarMenuDeFila(int posicion, QPointF const& donde) {
+  if (posicion < 0 || static_cast<std::size_t>(posicion) >= con_.panel.cantidadDeFilas()) return;
+  auto const cual = static_cast<std::size_t>(posicion);
+  auto const entradas = con_.panel.abrirMenuDeFila(cual);
+  menuDeFila_.abrir(entradas, ventana(), ventana().mapToGlobal(donde.toPoint()), gustos_.dePantalla().escala,
+                    [this, id = con_.panel.idDeFila(cual)](EntradaDelMenuDeFila::Clase elegida) {
+                      con_.panel.elegirEnElMenu(id, elegida);
+                    });
 }
 
 void DelegadoQt::reabrir(Testigo testigo, ServicioDeSesion::Quien quien) {

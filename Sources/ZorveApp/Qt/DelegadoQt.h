@@ -12,6 +12,7 @@
 #include "ZorveApp/Qt/Dibujo/EstiloQt.h"
 #include "ZorveApp/Qt/Puentes/PuenteDelPanel.h"
 #include "ZorveApp/Qt/Ventanas/GustosDelEscritorio.h"
+#include "ZorveApp/Qt/Ventanas/MenuDeFilaQt.h"
 #include "ZorveApp/Qt/Ventanas/SistemaDeVentanas.h"
 #include "ZorveApp/Qt/Ventanas/VentanaDeAjustes.h"
 #include "ZorveApp/Qt/Ventanas/VentanaDelPanel.h"
@@ -55,6 +56,7 @@ class DelegadoQt final : public QObject, public CaraDelItem {
   VentanaDelPanel& ventana();
   void avisarSiNoHayBandeja();
   void escribirMenu();
+  void mostrarMenuDeFila(int posicion, QPointF const& donde);
   void atenderGustos();
 
   ColaboradoresDelDelegadoQt con_;
@@ -67,6 +69,7 @@ class DelegadoQt final : public QObject, public CaraDelItem {
   PuenteDelPanel puente_;
   EstiloQt estilo_{nullptr};
   std::unique_ptr<VentanaDelPanel> ventana_;
+  MenuDeFilaQt menuDeFila_;
   std::unique_ptr<VentanaDeAjustes> ventanaDeAjustes_;
   QTimer minutero_;
   QTimer reposo_;

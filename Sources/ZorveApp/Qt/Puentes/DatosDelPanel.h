@@ -2,10 +2,12 @@
 
 #include <QAbstractItemModel>
 #include <QObject>
+#include <QPointF>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QString>
 #include <QVariantList>
+#include <functional>
 
 #include "ZorveApp/Qt/Puentes/Prestamo.h"
 
@@ -40,7 +42,8 @@ class DatosDelPanel final : public QObject {
     return prestado<DatosDelPanel>(*motor);
   }
 
-  /// A row's roles: titulo, ayuda, ruta, palabra, tiempo, conteo, and estado, an `Estado`.
+  /// A row's roles: titulo, ayuda, ruta, palabra, tiempo, conteo, perdida, marcasDeTitulo and marcasDeRuta, and
+  /// estado, an `Estado`.
   QAbstractItemModel* filas = nullptr;
   QString consulta;
   /// The selected row's place, -1 for none.
@@ -59,17 +62,25 @@ class DatosDelPanel final : public QObject {
   QString nombreDeLimpiar;
   QString nombreDeLaLista;
 
+  /// What a row's last prompt has of the search, for help texts; empty for most rows.
+  std::function<QString(int)> trozo = [](int) { return QString{}; };
+  Q_INVOKABLE [[nodiscard]] QString trozoDe(int posicion) const { return trozo(posicion); }
+
  Q_SIGNALS:
   void cambio();
   void bandaCambio();
   void textosCambio();
   /// The panel has come up.
   void aparecio();
+  /// The keyboard asks for the selected row's menu.
+  void menuLlamado();
 
   /// Of the views.
   void consultaEscrita(QString const& texto);
   void filaPulsada(int posicion);
   void ajustesPedidos();
+  /// The menu of a row, to come up at a place in the window.
+  void menuPedido(int posicion, QPointF const& donde);
   /// A screen reader is to read `que`, which may be null; the keyboard stays where it is.
   void lecturaPedida(QQuickItem* que);
 };

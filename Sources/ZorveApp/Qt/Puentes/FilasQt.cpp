@@ -51,6 +51,8 @@ QVariant valor(Fila const& fila, int papel) {
       return enUnidades(fila.marcasDeTitulo, fila.titulo, 0);
     case FilasQt::marcasDeRuta:
       return enUnidades(fila.marcasDeRuta, fila.ruta, 1);
+    case FilasQt::perdida:
+      return enUnaLinea(fila.directorioPerdido.value_or(""));
     case FilasQt::estado:
       return QVariant::fromValue(estadoDe(fila.estado));
     default:
@@ -67,13 +69,12 @@ int FilasQt::rowCount(QModelIndex const& padre) const { return padre.isValid() ?
 QHash<int, QByteArray> FilasQt::roleNames() const {
   return {{titulo, "titulo"}, {ayuda, "ayuda"},   {ruta, "ruta"},    {palabra, "palabra"},
           {tiempo, "tiempo"}, {conteo, "conteo"}, {estado, "estado"},
-          {marcasDeTitulo, "marcasDeTitulo"}, {marcasDeRuta, "marcasDeRuta"}, {trozo, "trozo"}};
+          {marcasDeTitulo, "marcasDeTitulo"}, {marcasDeRuta, "marcasDeRuta"}, {perdida, "perdida"}};
 }
 
 QVariant FilasQt::data(QModelIndex const& indice, int papel) const {
   auto const posicion = static_cast<std::size_t>(indice.row());
   if (!indice.isValid() || posicion >= panel_.cantidadDeFilas()) return {};
-  if (papel == trozo) return enUnaLinea(panel_.trozoDelPrompt(posicion));
   return valor(fila(posicion), papel);
 }
 

@@ -47,6 +47,10 @@ PuenteDelPanel::PuenteDelPanel(PanelView& panel, PreferenciaDeIdioma const& idio
 }
 
 void PuenteDelPanel::atenderVistas() {
+  datos_.trozo = [this](int posicion) {
+    bool const esta = posicion >= 0 && static_cast<std::size_t>(posicion) < panel_.cantidadDeFilas();
+    return esta ? enUnaLinea(panel_.trozoDelPrompt(static_cast<std::size_t>(posicion))) : QString{};
+  };
   connect(&datos_, &DatosDelPanel::consultaEscrita, this, [this](QString const& texto) {
     panel_.escribirConsulta(texto.toStdString());
     actualizar();

@@ -1,5 +1,6 @@
 #include "ZorveApp/Qt/Ventanas/VentanaDelPanel.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -34,6 +35,12 @@ QRegion redonda(QSize tamano, double radio) {
   QPainterPath forma;
   forma.addRoundedRect(QRectF{QPointF{0, 0}, tamano}, radio, radio);
   return QRegion{forma.toFillPolygon().toPolygon()};
+}
+
+bool llamaAlMenu(QKeyEvent const& evento) {
+  auto const modificadores = evento.modifiers() & ~Qt::KeypadModifier;
+  return (evento.key() == Qt::Key_Menu && modificadores == Qt::NoModifier) ||
+         (evento.key() == Qt::Key_F10 && modificadores == Qt::ShiftModifier);
 }
 
 QScreen& pantallaDe(QPoint punto) {
@@ -130,7 +137,9 @@ bool VentanaDelPanel::tomarElCierre() {
 }
 
 void VentanaDelPanel::alPulsarFuera(QPoint donde) {
-  if (zonaDelIcono_.contains(donde) || !isVisible()) return;
+  // A menu over the panel reaches beyond it.
+  bool const hayMenu = QApplication::activePopupWidget() != nullptr;
+  if (zonaDelIcono_.contains(donde) || !isVisible() || hayMenu) return;
   cerradaPorFuera_ = milisegundos();
   sistema_.soltarElTeclado(*this);
   ocultar();
@@ -150,6 +159,11 @@ void VentanaDelPanel::mousePressEvent(QMouseEvent* evento) {
 }
 
 void VentanaDelPanel::keyPressEvent(QKeyEvent* evento) {
+  if (llamaAlMenu(*evento)) {
+    evento->accept();
+    Q_EMIT menuLlamado();
+    return;
+  }
   if (alPulsar_(aPulsacion(*evento))) {
     evento->accept();
     return;

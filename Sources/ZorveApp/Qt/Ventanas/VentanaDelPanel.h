@@ -39,6 +39,8 @@ class VentanaDelPanel final : public QQuickView {
 
  Q_SIGNALS:
   void escondida();
+  /// The key for a menu was pressed, or Shift+F10.
+  void menuLlamado();
 
  protected:
   void mousePressEvent(QMouseEvent* evento) override;

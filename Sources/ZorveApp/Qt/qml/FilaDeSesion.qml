@@ -13,17 +13,27 @@ Item {
     required property string tiempo
     required property string conteo
     required property int estado
+    required property string perdida
     required property var marcasDeTitulo
     required property var marcasDeRuta
     property bool seleccionada: false
     property bool conLinea: true
     signal pulsada
     signal senalada(string texto)
+    // The menu of this row, at a place in it.
+    signal menuPedido(point donde)
+
+    // What the row has no room for, and what there is to say about it.
+    function ayudaEntera() {
+        const dichos = [letreroDeTitulo.truncated ? titulo : "", letreroDeRuta.truncated ? ruta : "",
+                        perdida, DatosDelPanel.trozoDe(index), ayuda]
+        return dichos.filter(dicho => dicho.length > 0).join("\n")
+    }
 
     height: Medidas.altoDeFila
     Accessible.role: Accessible.ListItem
     Accessible.name: fila.titulo
-    Accessible.description: [palabra, ruta.replace(/\u200e/g, ""), tiempo, conteo, ayuda].filter(dicho => dicho.length > 0).join(", ")
+    Accessible.description: [palabra, ruta.replace(/\u200e/g, ""), tiempo, conteo, perdida, ayuda].filter(dicho => dicho.length > 0).join(", ")
     Accessible.selectable: true
     Accessible.selected: seleccionada
     Accessible.onPressAction: pulsada()
@@ -72,7 +82,7 @@ Item {
         maximumLineCount: 1
         elide: Text.ElideMiddle
         horizontalAlignment: Text.AlignLeft
-        font { family: Estilo.fija; pointSize: Estilo.letraDeRuta }
+        font { family: Estilo.fija; pointSize: Estilo.letraDeRuta; strikeout: fila.perdida.length > 0 }
         tinta: Estilo.textoTenue
         marcas: fila.marcasDeRuta
     }
@@ -82,7 +92,7 @@ Item {
         anchors.baseline: letreroDeRuta.baseline
         x: letreroDeRuta.x + Math.min(letreroDeRuta.width, letreroDeRuta.contentWidth)
         text: fila.palabra.length > 0 ? " · " + fila.palabra : ""
-        font: letreroDeRuta.font
+        font { family: Estilo.fija; pointSize: Estilo.letraDeRuta }
         color: Estilo.ember
     }
 
@@ -115,8 +125,10 @@ Item {
         id: zona
         anchors.fill: parent
         hoverEnabled: true
-        onContainsMouseChanged: fila.senalada(containsMouse ? fila.ayuda : "")
-        onClicked: fila.pulsada()
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onContainsMouseChanged: fila.senalada(containsMouse ? fila.ayudaEntera() : "")
+        onPressed: raton => { if (raton.button === Qt.RightButton) fila.menuPedido(Qt.point(raton.x, raton.y)) }
+        onClicked: raton => { if (raton.button === Qt.LeftButton) fila.pulsada() }
         // Heard, the second click of a double one is none of its own.
         onDoubleClicked: {}
     }

@@ -59,6 +59,15 @@ Item {
             else if (otraFila) DatosDelPanel.lecturaPedida(itemAtIndex(seleccion))
         }
 
+        Connections {
+            target: DatosDelPanel
+            function onMenuLlamado() {
+                lista.ponerALaVista()
+                const elegida = lista.itemAtIndex(lista.seleccion)
+                if (elegida) DatosDelPanel.menuPedido(lista.seleccion, elegida.mapToItem(null, Medidas.xDeTitulo, elegida.height / 2))
+            }
+        }
+
         Timer { id: lectura; interval: 0; onTriggered: lista.leer() }
         Timer { id: colocacion; interval: 0; onTriggered: lista.ponerALaVista() }
 
@@ -68,6 +77,7 @@ Item {
             seleccionada: index === DatosDelPanel.seleccion
             conLinea: index !== DatosDelPanel.seleccion && index + 1 !== DatosDelPanel.seleccion && index + 1 < ListView.view.count
             onPulsada: DatosDelPanel.filaPulsada(index)
+            onMenuPedido: donde => DatosDelPanel.menuPedido(index, mapToItem(null, donde))
             onSenalada: texto => cuerpo.ayuda(fila, texto, y - ListView.view.contentY + height)
         }
     }
