@@ -92,6 +92,8 @@ class PanelView {
 
   /// Stands in place of the rows.
   [[nodiscard]] std::optional<std::string_view> marcador() const;
+  /// Whether there is no session at all, found or not.
+  [[nodiscard]] bool vacio() const { return modelo_.resultado()->sesiones.empty(); }
   [[nodiscard]] std::size_t cantidadDeFilas() const;
   /// The content of row `posicion`, below `cantidadDeFilas()`.
   [[nodiscard]] Fila fila(std::size_t posicion) const;

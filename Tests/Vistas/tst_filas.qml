@@ -74,6 +74,30 @@ Item {
             verify(!textos(una).some(t => t.visible && t.text.includes("·")))
         }
 
+        function test_laRutaDeUnDirectorioPerdidoVaTachada() {
+            const una = createTemporaryObject(fila, caso, { perdida: "The directory no longer exists." })
+            verify(texto(una, "~/src").font.strikeout)
+            verify(una.ayudaEntera().includes("no longer exists"))
+            verify(!texto(createTemporaryObject(fila, caso), "~/src").font.strikeout)
+        }
+
+        function test_laAyudaDiceEnteroLoQueNoCabe() {
+            const largo = "m".repeat(200)
+            const una = createTemporaryObject(fila, caso, { titulo: largo, ruta: "/r".repeat(200), ayuda: "otra cosa" })
+            compare(una.ayudaEntera(), largo + "\n" + "/r".repeat(200) + "\notra cosa")
+            compare(createTemporaryObject(fila, caso).ayudaEntera(), "")
+        }
+
+        function test_elBotonSecundarioPideElMenuYNoPulsa() {
+            const una = createTemporaryObject(fila, caso)
+            const donde = createTemporaryQmlObject("import QtTest; SignalSpy { signalName: 'menuPedido' }", caso)
+            donde.target = una
+            caso.pulsadas = 0
+            mouseClick(una, 200, 28, Qt.RightButton)
+            compare(caso.pulsadas, 0)
+            compare(donde.count, 1)
+        }
+
         function test_loQueSeBuscaSePintaDelAcentoYElRestoDelSuyo() {
             const una = createTemporaryObject(fila, caso, { titulo: "un parser", marcasDeTitulo: [3, 9] })
             const pintados = textos(una).filter(t => t.text === "un parser")

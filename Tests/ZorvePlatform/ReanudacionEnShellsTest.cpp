@@ -19,11 +19,10 @@ class ReanudacionEn : public testing::TestWithParam<char const*> {
                                  std::filesystem::perms{0755});
   }
   [[nodiscard]] dobles::Corrida correr(std::string const& linea) const {
-    return dobles::correr({GetParam(), "-c", linea},
-                          {{"PATH", carpeta.dentro("bin") + ":/usr/bin:/bin"},
-                           {"HOME", carpeta.dentro("bin")},
-                           {"XDG_CONFIG_HOME", carpeta.dentro("bin")},
-                           {"LC_ALL", "C.UTF-8"}});
+    return dobles::correr({GetParam(), "-c", linea}, {{"PATH", carpeta.dentro("bin") + ":/usr/bin:/bin"},
+                                                      {"HOME", carpeta.dentro("bin")},
+                                                      {"XDG_CONFIG_HOME", carpeta.dentro("bin")},
+                                                      {"LC_ALL", "C.UTF-8"}});
   }
 
   dobles::CarpetaTemporal carpeta;
@@ -31,8 +30,8 @@ class ReanudacionEn : public testing::TestWithParam<char const*> {
 
 TEST_P(ReanudacionEn, laLineaLlegaAlDirectorioYALaSesion) {
   for (std::string const nombre :
-       {"llano", "con espacio", "it's", "barra\\", "dos\\\\barras", "\\'", "$HOME `x` $(x)", "a*?[b]{c,d}", "-r",
-        "ñ 中文 🧪", "!!", "~", "#x", "a;b&c|d", "\"dobles\"", "a\nb", "%s", "=zsh", "^x"}) {
+       {"llano", "con espacio", "it's", "barra\\", "dos\\\\barras", "\\'", "$HOME `x` $(x)", "a*?[b]{c,d}",
+        "-r", "ñ 中文 🧪", "!!", "~", "#x", "a;b&c|d", "\"dobles\"", "a\nb", "%s", "=zsh", "^x"}) {
     auto const directorio = carpeta.carpeta(nombre);
     auto const linea = lineaDeReanudacion({.cwd = directorio, .sessionId = "id '" + nombre});
     ASSERT_TRUE(linea) << nombre;

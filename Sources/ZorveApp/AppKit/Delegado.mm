@@ -125,10 +125,10 @@
 /// A transient popover of a program without windows does not hear of presses in other programs.
 - (void)oirPulsacionesFuera {
   __weak Delegado* const debil = self;
-  _pulsacionesFuera.emplace(
-      NSEventMaskLeftMouseDown | NSEventMaskRightMouseDown | NSEventMaskOtherMouseDown, ^(NSEvent*) {
-        [debil cerrarPanel];
-      });
+  _pulsacionesFuera.emplace(NSEventMaskLeftMouseDown | NSEventMaskRightMouseDown | NSEventMaskOtherMouseDown,
+                            ^(NSEvent*) {
+                              [debil cerrarPanel];
+                            });
 }
 
 - (void)popoverWillClose:(NSNotification*)nota {

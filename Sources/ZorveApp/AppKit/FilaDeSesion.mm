@@ -85,7 +85,7 @@ void apretar(NSTextField* campo, NSLayoutPriority prioridad) {
     _ruta.lineBreakMode = NSLineBreakByTruncatingMiddle;
     _palabra = zorve::rotulo(fija, Estilo::ember);
     _tiempo = zorve::rotulo(cifras, Estilo::textoTenue);
-    _conteo = zorve::rotulo(cifras, Estilo::textoDebil);
+    _conteo = zorve::rotulo(cifras, Estilo::textoTenue);
     apretar(_titulo, NSLayoutPriorityDefaultLow);
     apretar(_ruta, NSLayoutPriorityDefaultLow);
     for (NSTextField* campo in @[ _palabra, _tiempo, _conteo ]) apretar(campo, NSLayoutPriorityRequired);
@@ -121,10 +121,13 @@ void apretar(NSTextField* campo, NSLayoutPriority prioridad) {
 }
 
 - (void)mostrar:(zorve::Fila const&)fila {
+  // Faint texts are stronger on the selection's card.
+  zorve::Color const tenue = fila.seleccionada ? Estilo::texto : Estilo::textoTenue;
+  for (NSTextField* campo in @[ _ruta, _tiempo, _conteo ]) campo.textColor = zorve::colorLegible(tenue);
   _punto.estado = fila.estado;
   escribir(_titulo, fila.titulo, fila.marcasDeTitulo, Estilo::textoAlto);
   _titulo.toolTip = fila.ayuda ? zorve::cadena(*fila.ayuda) : nil;
-  escribir(_ruta, fila.ruta, fila.marcasDeRuta, Estilo::textoTenue);
+  escribir(_ruta, fila.ruta, fila.marcasDeRuta, tenue);
   _palabra.stringValue = palabraDe(fila);
   _tiempo.stringValue = zorve::cadena(fila.tiempo);
   _conteo.stringValue = cadenaDe(fila.conteo);

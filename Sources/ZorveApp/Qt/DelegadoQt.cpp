@@ -37,11 +37,9 @@ DelegadoQt::DelegadoQt(ColaboradoresDelDelegadoQt con)
       barra_{{[this](ClicEnLaBarra clic) { alClic(clic); },
               [this](EntradaDelMenu::Clase cual) { item_.elegir(cual); }, [this] { item_.reabrir(); }}},
       puente_{con.panel, con.idioma} {
-  con_.panel.acciones = {[this] { cerrarPanel(); },
-                         [this] { item_.salir(); },
-                         [this](std::string const& cual) {
-                           mostrarEnElGestorDeArchivos(cual, con_.activacion);
-                         }};
+  con_.panel.acciones = {
+      [this] { cerrarPanel(); }, [this] { item_.salir(); },
+      [this](std::string const& cual) { mostrarEnElGestorDeArchivos(cual, con_.activacion); }};
   con_.ajustes.acciones = {[this] { ventanaDeAjustes_->hide(); }, [this] { item_.salir(); }};
   minutero_.setInterval(pasoDelReloj);
   reposo_.setInterval(esperaDeReposo);
@@ -67,8 +65,8 @@ void DelegadoQt::arrancar() {
 VentanaDelPanel& DelegadoQt::ventana() {
   if (ventana_) return *ventana_;
   preferirEmojiEnColor();
-  ventana_ = std::make_unique<VentanaDelPanel>(
-      *sistema_, [this](Pulsacion const& tecla) { return con_.panel.tecla(tecla); });
+  ventana_ = std::make_unique<VentanaDelPanel>(*sistema_,
+                                               [this](Pulsacion const& tecla) { return alPulsar(tecla); });
   connect(ventana_.get(), &VentanaDelPanel::menuLlamado, &puente_.datos(), &DatosDelPanel::menuLlamado);
   connect(ventana_.get(), &VentanaDelPanel::escondida, this, [this] { menuDeFila_.cerrar(); });
   connect(ventana_.get(), &VentanaDelPanel::escondida, &minutero_, &QTimer::stop);
@@ -81,6 +79,15 @@ VentanaDelPanel& DelegadoQt::ventana() {
   estilo_.vestir(gustos_.dePantalla());
   ventana_->preparar();
   return *ventana_;
+}
+
+/// Return with nothing to open asks for another search.
+bool DelegadoQt::alPulsar(Pulsacion const& tecla) {
+  bool const suya = con_.panel.tecla(tecla);
+  if (suya && tecla.tecla == Tecla::retorno && con_.panel.cantidadDeFilas() == 0) {
+    Q_EMIT puente_.datos().otraBusqueda();
+  }
+  return suya;
 }
 
 void DelegadoQt::avisarSiNoHayBandeja() {
@@ -128,7 +135,7 @@ void DelegadoQt::alClic(ClicEnLaBarra clic) {
   if (!quisoCerrar) item_.clic(clic);
 }
 
-bool DelegadoQt::panelVisible() const { return ventana_ && ventana_->isVisible(); }
+bool DelegadoQt::panelVisible() const { return ventana_ && ventana_->mostrada(); }
 
 void DelegadoQt::mostrarPanel() {
   bool const aparece = !panelVisible();

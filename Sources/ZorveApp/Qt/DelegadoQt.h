@@ -52,6 +52,7 @@ class DelegadoQt final : public QObject, public CaraDelItem {
 
  private:
   void alClic(ClicEnLaBarra clic);
+  bool alPulsar(Pulsacion const& tecla);
   /// The panel's window, built and prepared by the first who asks.
   VentanaDelPanel& ventana();
   void avisarSiNoHayBandeja();

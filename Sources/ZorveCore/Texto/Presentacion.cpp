@@ -14,8 +14,8 @@ std::string unidades(double segundos, double porUnidad, char unidad) {
 
 /// How many bytes at the start of `ruta` are written "~".
 std::size_t bytesDelHome(std::string_view ruta, std::string_view home) {
-  bool const bajoHome = !home.empty() && ruta.starts_with(home) &&
-                        (ruta.size() == home.size() || ruta[home.size()] == '/');
+  bool const bajoHome =
+      !home.empty() && ruta.starts_with(home) && (ruta.size() == home.size() || ruta[home.size()] == '/');
   return bajoHome ? home.size() : 0;
 }
 

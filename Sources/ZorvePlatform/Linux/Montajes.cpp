@@ -11,10 +11,9 @@ namespace {
 
 /// Their data are in this machine's memory or on its disks.
 constexpr std::array<std::string_view, 29> tiposLocales{
-    "apfs",     "aufs",     "bcachefs", "btrfs", "cramfs",   "devtmpfs", "ecryptfs", "erofs",
-    "exfat",    "ext2",     "ext3",     "ext4",  "f2fs",      "hfsplus",  "iso9660",
-    "jfs",      "minix",    "msdos",    "nilfs2", "ntfs",    "ntfs3",    "overlay",  "ramfs",
-    "reiserfs", "rootfs",   "squashfs", "tmpfs", "vfat",     "xfs"};
+    "apfs",  "aufs",    "bcachefs", "btrfs",    "cramfs",  "devtmpfs", "ecryptfs", "erofs", "exfat",  "ext2",
+    "ext3",  "ext4",    "f2fs",     "hfsplus",  "iso9660", "jfs",      "minix",    "msdos", "nilfs2", "ntfs",
+    "ntfs3", "overlay", "ramfs",    "reiserfs", "rootfs",  "squashfs", "tmpfs",    "vfat",  "xfs"};
 
 bool esTipoLocal(std::string_view tipo) {
   return tipo == "zfs" || tipo == "udf" || std::ranges::find(tiposLocales, tipo) != tiposLocales.end();

@@ -12,8 +12,8 @@ class Montajes {
   /// `mountinfo`: the file's text. Lines that are none are passed over.
   explicit Montajes(std::string_view mountinfo);
 
-  /// Whether `ruta` (absolute, without "..", "." and links) lies on a file system of this machine's own, which
-  /// answers without another machine or a program. No for types that are not known.
+  /// Whether `ruta` (absolute, without "..", "." and links) lies on a file system of this machine's own,
+  /// which answers without another machine or a program. No for types that are not known.
   [[nodiscard]] bool esLocal(std::string_view ruta) const;
 
  private:

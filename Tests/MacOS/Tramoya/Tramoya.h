@@ -39,6 +39,7 @@
 
 @interface NSView (Pruebas)
 - (BOOL)isHiddenOrHasHiddenAncestor;
+- (BOOL)accessibilityPerformShowMenu;
 - (NSSize)intrinsicContentSize;
 @end
 

@@ -75,8 +75,8 @@ TEST(Coincidencias, loQueNadieVeNoSeMarca) {
 /// Texts of letters that fold in every way there is.
 std::string revuelto(std::mt19937& azar) {
   static constexpr std::array<std::string_view, 20> letras{
-      "a", "B", "I", "i", "ß", "ﬁ", "é", "e\u0301", "\u0301", "Ñ", "İ", "Σ", "ς", "한", "ᄒ\u1161", "क\u093c",
-      "\xff", "\xc3", "🧪", " "};
+      "a", "B", "I", "i",  "ß",        "ﬁ",       "é",    "e\u0301", "\u0301", "Ñ",
+      "İ", "Σ", "ς", "한", "ᄒ\u1161", "क\u093c", "\xff", "\xc3",    "🧪",     " "};
   std::string texto;
   for (auto n = azar() % 12; n > 0; --n) texto += letras.at(azar() % letras.size());
   return texto;

@@ -23,6 +23,7 @@ class DatosDelPanel final : public QObject {
   Q_PROPERTY(QString consulta MEMBER consulta NOTIFY cambio)
   Q_PROPERTY(int seleccion MEMBER seleccion NOTIFY cambio)
   Q_PROPERTY(QString marcador MEMBER marcador NOTIFY cambio)
+  Q_PROPERTY(bool vacio MEMBER vacio NOTIFY cambio)
   Q_PROPERTY(QString terminal MEMBER terminal NOTIFY cambio)
   Q_PROPERTY(QVariantList banda MEMBER banda NOTIFY bandaCambio)
   Q_PROPERTY(QVariantList leyenda MEMBER leyenda NOTIFY textosCambio)
@@ -42,14 +43,16 @@ class DatosDelPanel final : public QObject {
     return prestado<DatosDelPanel>(*motor);
   }
 
-  /// A row's roles: titulo, ayuda, ruta, palabra, tiempo, conteo, perdida, marcasDeTitulo and marcasDeRuta, and
-  /// estado, an `Estado`.
+  /// A row's roles: titulo, ayuda, ruta, palabra, tiempo, conteo, perdida, marcasDeTitulo and marcasDeRuta,
+  /// and estado, an `Estado`.
   QAbstractItemModel* filas = nullptr;
   QString consulta;
   /// The selected row's place, -1 for none.
   int seleccion = -1;
   /// What stands in place of the rows; empty when there are rows.
   QString marcador;
+  /// Whether there is no session at all.
+  bool vacio = false;
   QString terminal;
   /// One {texto, esError} a line.
   QVariantList banda;
@@ -72,6 +75,8 @@ class DatosDelPanel final : public QObject {
   void textosCambio();
   /// The panel has come up.
   void aparecio();
+  /// What was searched has found nothing: it is there to be typed over.
+  void otraBusqueda();
   /// The keyboard asks for the selected row's menu.
   void menuLlamado();
 

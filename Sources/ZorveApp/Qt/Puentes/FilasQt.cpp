@@ -67,9 +67,16 @@ FilasQt::FilasQt(PanelView const& panel, QObject* padre) : QAbstractListModel{pa
 int FilasQt::rowCount(QModelIndex const& padre) const { return padre.isValid() ? 0 : cantidad_; }
 
 QHash<int, QByteArray> FilasQt::roleNames() const {
-  return {{titulo, "titulo"}, {ayuda, "ayuda"},   {ruta, "ruta"},    {palabra, "palabra"},
-          {tiempo, "tiempo"}, {conteo, "conteo"}, {estado, "estado"},
-          {marcasDeTitulo, "marcasDeTitulo"}, {marcasDeRuta, "marcasDeRuta"}, {perdida, "perdida"}};
+  return {{titulo, "titulo"},
+          {ayuda, "ayuda"},
+          {ruta, "ruta"},
+          {palabra, "palabra"},
+          {tiempo, "tiempo"},
+          {conteo, "conteo"},
+          {estado, "estado"},
+          {marcasDeTitulo, "marcasDeTitulo"},
+          {marcasDeRuta, "marcasDeRuta"},
+          {perdida, "perdida"}};
 }
 
 QVariant FilasQt::data(QModelIndex const& indice, int papel) const {

@@ -85,6 +85,7 @@ void PuenteDelPanel::actualizar() {
   datos_.consulta = aQString(panel_.consulta());
   datos_.seleccion = fila ? static_cast<int>(*fila) : -1;
   datos_.marcador = enUnaLinea(panel_.marcador().value_or(""));
+  datos_.vacio = panel_.vacio();
   datos_.terminal = enUnaLinea(panel_.terminal());
   Q_EMIT datos_.cambio();
 }

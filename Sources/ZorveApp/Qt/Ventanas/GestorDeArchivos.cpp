@@ -24,10 +24,11 @@ void pedirPorElBus(QUrl const& cual, QString const& testigo) {
       QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowFolders"));
   peticion << QStringList{cual.toString(QUrl::FullyEncoded)} << testigo;
   auto* const espera = new QDBusPendingCallWatcher{QDBusConnection::sessionBus().asyncCall(peticion)};
-  QObject::connect(espera, &QDBusPendingCallWatcher::finished, espera, [cual](QDBusPendingCallWatcher* llamada) {
-    llamada->deleteLater();
-    if (QDBusPendingReply<>{*llamada}.isError()) QDesktopServices::openUrl(cual);
-  });
+  QObject::connect(espera, &QDBusPendingCallWatcher::finished, espera,
+                   [cual](QDBusPendingCallWatcher* llamada) {
+                     llamada->deleteLater();
+                     if (QDBusPendingReply<>{*llamada}.isError()) QDesktopServices::openUrl(cual);
+                   });
 }
 
 }  // namespace

@@ -13,7 +13,11 @@ namespace zorve {
 namespace {
 
 QString color(QColor const& cual) {
-  return QStringLiteral("rgba(%1,%2,%3,%4)").arg(cual.red()).arg(cual.green()).arg(cual.blue()).arg(cual.alpha());
+  return QStringLiteral("rgba(%1,%2,%3,%4)")
+      .arg(cual.red())
+      .arg(cual.green())
+      .arg(cual.blue())
+      .arg(cual.alpha());
 }
 
 /// The panel's help texts have the same fill and outline.
@@ -38,8 +42,7 @@ void MenuDeFilaQt::abrir(std::vector<EntradaDelMenuDeFila> const& entradas, QWin
   menu_->setStyleSheet(aspecto(escala));
   for (auto const& [clase, titulo] : entradas) {
     auto* const accion = menu_->addAction(aQString(titulo));
-    QObject::connect(accion, &QAction::triggered, menu_.get(),
-                     [alElegir, cual = clase] { alElegir(cual); });
+    QObject::connect(accion, &QAction::triggered, menu_.get(), [alElegir, cual = clase] { alElegir(cual); });
   }
   menu_->winId();
   menu_->windowHandle()->setTransientParent(&ventana);

@@ -18,6 +18,8 @@ Item {
     required property var marcasDeRuta
     property bool seleccionada: false
     property bool conLinea: true
+    // Whether its card is lit, over which faint texts are drawn stronger.
+    readonly property bool encendida: seleccionada || zona.containsMouse
     signal pulsada
     signal senalada(string texto)
     // The menu of this row, at a place in it.
@@ -40,10 +42,15 @@ Item {
 
     Rectangle {
         anchors { fill: parent; leftMargin: Medidas.sangriaDeSeleccion; rightMargin: Medidas.sangriaDeSeleccion }
-        visible: fila.seleccionada || zona.containsMouse
+        objectName: "tarjeta"
+        visible: color.a > 0 || border.color.a > 0
         radius: Medidas.radioDeSeleccion
-        color: fila.seleccionada ? Estilo.filaSeleccionada : zona.pressed ? Estilo.filaAlPulsar : Estilo.filaAlPasar
-        border { width: fila.seleccionada ? Medidas.borde : 0; color: zona.pressed ? Estilo.acento : Estilo.contornoDeFila }
+        color: fila.seleccionada ? Estilo.filaSeleccionada
+                                 : zona.pressed ? Estilo.filaAlPulsar : zona.containsMouse ? Estilo.filaAlPasar : Estilo.filaApagada
+        border.width: Estilo.trazoDeSeleccion
+        border.color: !fila.seleccionada ? Estilo.filaApagada : zona.pressed ? Estilo.acento : Estilo.contornoDeFila
+        Fundirse on color {}
+        Fundirse on border.color {}
     }
 
     MarcaDeEstado {
@@ -68,7 +75,7 @@ Item {
             maximumLineCount: 1
             elide: Text.ElideRight
             horizontalAlignment: Text.AlignLeft
-            font { pointSize: Estilo.letraDeTitulo; weight: Font.Medium }
+            font { pointSize: Estilo.letraDeTitulo; weight: Estilo.pesoMedio }
             tinta: Estilo.textoAlto
             marcas: fila.marcasDeTitulo
         }
@@ -83,7 +90,7 @@ Item {
         elide: Text.ElideMiddle
         horizontalAlignment: Text.AlignLeft
         font { family: Estilo.fija; pointSize: Estilo.letraDeRuta; strikeout: fila.perdida.length > 0 }
-        tinta: Estilo.textoTenue
+        tinta: fila.encendida ? Estilo.textoEncendido : Estilo.textoTenue
         marcas: fila.marcasDeRuta
     }
 
@@ -101,8 +108,8 @@ Item {
         anchors { right: parent.right; rightMargin: Medidas.margenDerecho }
         y: Medidas.yDeTiempo
         text: fila.tiempo
-        font.pointSize: Estilo.letraDerecha
-        color: Estilo.textoTenue
+        font: Estilo.cifras
+        color: fila.encendida ? Estilo.textoEncendido : Estilo.textoTenue
     }
 
     Letrero {
@@ -110,8 +117,8 @@ Item {
         anchors { right: letreroDeTiempo.right }
         y: Medidas.yDeConteo
         text: fila.conteo
-        font.pointSize: Estilo.letraDerecha
-        color: Estilo.textoDebil
+        font: Estilo.cifras
+        color: fila.encendida ? Estilo.textoEncendido : Estilo.textoTenue
     }
 
     Rectangle {

@@ -41,8 +41,18 @@ Item {
         onCountChanged: colocacion.restart()
         onHeightChanged: ponerALaVista()
 
+        // Whole, clear of what fades at the foot, and with the list's own margin before the first and after the last.
         function ponerALaVista() {
-            if (seleccion >= 0 && seleccion < count) positionViewAtIndex(seleccion, ListView.Contain)
+            if (seleccion < 0 || seleccion >= count) return
+            positionViewAtIndex(seleccion, ListView.Contain)
+            const elegida = itemAtIndex(seleccion)
+            if (!elegida) return
+            const primera = originY - topMargin
+            const ultima = Math.max(primera, originY + contentHeight + bottomMargin - height)
+            const arriba = elegida.y - topMargin
+            const abajo = elegida.y + elegida.height + (seleccion + 1 < count ? Medidas.fundidoDeLista : bottomMargin) - height
+            if (arriba < contentY) contentY = Math.max(primera, arriba)
+            else if (abajo > contentY) contentY = Math.min(ultima, abajo)
         }
 
         // Going from row to row has a screen reader read each; typing has it back in the field.
@@ -82,6 +92,14 @@ Item {
         }
     }
 
+    Fundido {
+        objectName: "fundidoDeLaLista"
+        anchors { left: lista.left; right: lista.right; bottom: lista.bottom; leftMargin: Medidas.borde; rightMargin: Medidas.borde }
+        height: Medidas.fundidoDeLista
+        tono: Estilo.fondoBajo
+        visible: lista.contentHeight > lista.height && !lista.atYEnd
+    }
+
     Desplazamiento { lista: lista }
 
     Column {
@@ -101,6 +119,21 @@ Item {
             text: DatosDelPanel.marcador
             font.pointSize: Estilo.letraDeTitulo
             color: Estilo.textoTenue
+        }
+        Repeater {
+            model: DatosDelPanel.vacio && DatosDelPanel.banda.length <= 2 ? DatosDelPanel.banda : []
+            delegate: Letrero {
+                required property var modelData
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: Math.min(implicitWidth, Medidas.ancho - 2 * Medidas.xDeTitulo)
+                text: modelData.texto
+                wrapMode: Text.Wrap
+                horizontalAlignment: Text.AlignHCenter
+                font.pointSize: Estilo.letraDeBanda
+                color: Estilo.texto
+                Accessible.role: Accessible.AlertMessage
+                Accessible.name: text
+            }
         }
     }
 }
