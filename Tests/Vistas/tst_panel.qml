@@ -73,7 +73,7 @@ Item {
             for (const cada of letreros(vista)) verify(!Qt.colorEqual(cada.color, Estilo.textoDebil), cada.text)
         }
 
-        function x(de, cual) { return cual.mapToItem(de, 0, 0).x }
+        function lugarEn(de, cual) { return cual.mapToItem(de, 0, 0).x }
 
         function test_marcasTextosYBordesEstanEnUnaRejilla() {
             llenar(3)
@@ -82,13 +82,13 @@ Item {
             DatosDelPanel.banda = [{ texto: "un aviso", esError: false }]
             tryVerify(() => lista().itemAtIndex(0) !== null)
             const titulo = letreros(lista().itemAtIndex(0)).find(t => t.text === "Sesión 0")
-            compare(x(vista, titulo), 44)
-            compare(x(vista, campo()), 44)
-            compare(x(vista, letreros(findChild(vista, "banda")).find(t => t.text === "un aviso")), 44)
+            compare(lugarEn(vista, titulo), 44)
+            compare(lugarEn(vista, campo()), 44)
+            compare(lugarEn(vista, letreros(findChild(vista, "banda")).find(t => t.text === "un aviso")), 44)
             const tiempo = letreros(lista().itemAtIndex(0)).find(t => t.text === "1h")
-            fuzzyCompare(x(vista, tiempo) + tiempo.width, 420, 0.5)
-            compare(x(vista, findChild(vista, "engranaje")) + 20, 420)
-            compare(x(vista, findChild(lista().itemAtIndex(0), "tarjeta")), 8)
+            fuzzyCompare(lugarEn(vista, tiempo) + tiempo.width, 420, 0.5)
+            compare(lugarEn(vista, findChild(vista, "engranaje")) + 20, 420)
+            compare(lugarEn(vista, findChild(lista().itemAtIndex(0), "tarjeta")), 8)
         }
 
         function test_laUltimaFilaConservaElMargenDelPieDeLaLista() {

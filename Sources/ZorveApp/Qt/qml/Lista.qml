@@ -45,12 +45,10 @@ Item {
         function ponerALaVista() {
             if (seleccion < 0 || seleccion >= count) return
             positionViewAtIndex(seleccion, ListView.Contain)
-            const elegida = itemAtIndex(seleccion)
-            if (!elegida) return
             const primera = originY - topMargin
             const ultima = Math.max(primera, originY + contentHeight + bottomMargin - height)
-            const arriba = elegida.y - topMargin
-            const abajo = elegida.y + elegida.height + (seleccion + 1 < count ? Medidas.fundidoDeLista : bottomMargin) - height
+            const arriba = originY + seleccion * Medidas.altoDeFila - topMargin
+            const abajo = arriba + topMargin + Medidas.altoDeFila + (seleccion + 1 < count ? Medidas.fundidoDeLista : bottomMargin) - height
             if (arriba < contentY) contentY = Math.max(primera, arriba)
             else if (abajo > contentY) contentY = Math.min(ultima, abajo)
         }
