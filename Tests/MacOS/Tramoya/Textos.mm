@@ -182,6 +182,8 @@ std::string deCorto(std::uintptr_t bits) {
 }
 @end
 
+void _NSRangeExceptionRaise() { tramoya::faltas().push_back("a range ends beyond the largest number"); }
+
 @implementation NSMutableAttributedString {
   struct Puesto {
     std::string nombre;

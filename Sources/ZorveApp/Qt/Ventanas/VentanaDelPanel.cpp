@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QPainterPath>
 #include <QQuickItem>
+#include <QWidget>
 #include <utility>
 
 #include "ZorveApp/Estilo.h"
@@ -117,7 +118,7 @@ void VentanaDelPanel::mostrarEn(std::optional<Ancla> const& ancla, bool conTecla
   if (ancla && ancla->soloPunto) {
     zonaDelIcono_.adjust(-alcanceDelIcono, -alcanceDelIcono, alcanceDelIcono, alcanceDelIcono);
   }
-  rootObject()->setProperty("presente", true);
+  if (rootObject()) rootObject()->setProperty("presente", true);
   show();
   raise();
   if (conTeclado) sistema_.tomarElTeclado(*this);
@@ -177,6 +178,11 @@ void VentanaDelPanel::mousePressEvent(QMouseEvent* evento) {
 }
 
 void VentanaDelPanel::keyPressEvent(QKeyEvent* evento) {
+  // Where the window system leaves the keyboard with the panel, a menu over it gets its keys from here.
+  if (auto* const menu = QApplication::activePopupWidget()) {
+    QApplication::sendEvent(menu, evento);
+    return;
+  }
   if (llamaAlMenu(*evento)) {
     evento->accept();
     Q_EMIT menuLlamado();
