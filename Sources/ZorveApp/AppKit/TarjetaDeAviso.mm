@@ -8,8 +8,8 @@ namespace Medidas = zorve::Medidas;
 
 namespace {
 
-constexpr CGFloat punto = 5;
-constexpr CGFloat xDelPunto = 13.5;
+constexpr CGFloat punto = 6;
+constexpr CGFloat xDelPunto = 13;
 constexpr CGFloat xDelTexto = 36;
 constexpr CGFloat margen = 9;
 
