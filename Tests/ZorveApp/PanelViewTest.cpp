@@ -357,7 +357,9 @@ TEST_F(PanelViewTest, elMenuDeUnaFilaLaEligeSinAbrirla) {
 TEST_F(PanelViewTest, enElMenuNoEstaLoQueNoSePuede) {
   auto sinId = sesionDe("a");
   sinId.sessionId.reset();
-  cargar({sinId, sesionDe("b", "una", "/con\x1b" "control")});
+  cargar({sinId, sesionDe("b", "una",
+                          "/con\x1b"
+                          "control")});
   EXPECT_EQ(clasesDe(panel.abrirMenuDeFila(0)),
             (std::vector{ClaseDelMenu::abrir, ClaseDelMenu::copiarDirectorio}));
   EXPECT_EQ(

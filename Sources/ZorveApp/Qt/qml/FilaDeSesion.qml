@@ -27,9 +27,8 @@ Item {
 
     // What the row has no room for, and what there is to say about it.
     function ayudaEntera() {
-        const dichos = [letreroDeTitulo.truncated ? titulo : "", letreroDeRuta.truncated ? ruta : "",
-                        perdida, DatosDelPanel.trozoDe(index), ayuda]
-        return dichos.filter(dicho => dicho.length > 0).join("\n")
+        return [letreroDeTitulo.truncated ? titulo : "", letreroDeRuta.truncated ? ruta : "",
+                perdida, DatosDelPanel.trozoDe(index), ayuda].filter(dicho => dicho.length > 0).join("\n")
     }
 
     height: Medidas.altoDeFila

@@ -19,17 +19,18 @@ Letrero {
         delegate: Item {
             id: pieza
             required property var modelData
+            readonly property LetreroMarcado suyo: parent as LetreroMarcado
 
             x: modelData.x
             width: modelData.ancho
-            height: entero.height
+            height: suyo ? suyo.height : 0
             clip: true
 
             Letrero {
                 x: -pieza.x
-                text: entero.cortado.texto
-                font: entero.font
-                color: pieza.modelData.marcada ? Estilo.acento : entero.tinta
+                text: pieza.suyo ? pieza.suyo.cortado.texto : ""
+                font: pieza.suyo ? pieza.suyo.font : Qt.font({})
+                color: pieza.modelData.marcada || !pieza.suyo ? Estilo.acento : pieza.suyo.tinta
             }
         }
     }
