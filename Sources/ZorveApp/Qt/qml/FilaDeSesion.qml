@@ -27,8 +27,14 @@ Item {
 
     // What the row has no room for, and what there is to say about it.
     function ayudaEntera() {
-        return [letreroDeTitulo.truncated ? titulo : "", letreroDeRuta.truncated ? ruta : "",
-                perdida, DatosDelPanel.trozoDe(index), ayuda].filter(dicho => dicho.length > 0).join("\n")
+        let dicho = letreroDeTitulo.truncated ? titulo : ""
+        dicho = conOtroRenglon(dicho, letreroDeRuta.truncated ? ruta : "")
+        dicho = conOtroRenglon(dicho, perdida)
+        dicho = conOtroRenglon(dicho, DatosDelPanel.trozoDe(index))
+        return conOtroRenglon(dicho, ayuda)
+    }
+    function conOtroRenglon(dicho: string, otro: string): string {
+        return dicho.length === 0 ? otro : otro.length === 0 ? dicho : dicho + "\n" + otro
     }
 
     height: Medidas.altoDeFila
