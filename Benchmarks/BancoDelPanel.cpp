@@ -114,7 +114,8 @@ struct Panel {
     letras += vista.marcador() ? 1U : 0U;
     for (std::size_t i = 0; i < std::min(filasALaVista, vista.cantidadDeFilas()); ++i) {
       auto const fila = vista.fila(i);
-      letras += fila.titulo.size() + fila.lineaDeRuta().size() + fila.tiempo.size();
+      letras += fila.titulo.size() + fila.lineaDeRuta().size() + fila.tiempo.size() +
+                fila.marcasDeTitulo.size() + fila.marcasDeRuta.size();
     }
     return letras + vista.filaSeleccionada().value_or(0);
   }
@@ -189,6 +190,30 @@ void medirTeclas(std::string const& nombre, std::vector<Session> const& lista) {
                 percentil(muestras, 0.5), "ms");
 }
 
+/// What the marks of the drawn rows take of each keystroke that finds something.
+void medirMarcas(std::string const& nombre, std::vector<Session> const& lista) {
+  Panel panel{lista};
+  std::vector<double> enteras;
+  std::vector<double> marcas;
+  for (auto const& texto : teclasDe({"parser fuzz", "senales cafe"})) {
+    enteras.push_back(medirHilo([&] {
+      panel.vista.escribirConsulta(texto);
+      consumido = consumido + panel.dibujar();
+    }));
+    auto const fichas = panel.modelo.fichas();
+    marcas.push_back(medirHilo([&] {
+      for (auto const i :
+           panel.modelo.visibles().first(std::min(filasALaVista, panel.modelo.visibles().size()))) {
+        auto const& sesion = panel.modelo.resultado()->sesiones[i];
+        consumido = consumido + tramosDe(sesion.titulo, fichas, panel.modelo.regla()).size() +
+                    tramosDe(sesion.cwd, fichas, panel.modelo.regla()).size();
+      }
+    }));
+  }
+  tabla::titulo("The marks of " + std::to_string(filasALaVista) + " rows within a keystroke, " + nombre);
+  tabla::razon("median", percentil(marcas, 0.5) * 1e3, percentil(enteras, 0.5) * 1e3, "us", 0.1);
+}
+
 double alAparecer(Panel& panel) {
   double mejor = 1e300;
   for (int vez = 0; vez < 2'000; ++vez) {
@@ -234,6 +259,8 @@ int main() {
   auto const ascii = sesiones(0);
   medirTeclas("ASCII texts", ascii);
   medirTeclas("one word in ten not ASCII", sesiones(10));
+  medirMarcas("ASCII texts", ascii);
+  medirMarcas("one word in ten not ASCII", sesiones(10));
   medirAparicion(ascii);
   medirFiltro(ascii);
 }

@@ -22,6 +22,8 @@ sesion() {
       "${titulo/#-/Why does the parser keep the first title?}" $((ahora - hace - (cuantos - i) * 60)) "$carpeta" "$id"
   done >>"$agente/history.jsonl"
   local proyecto=$agente/projects/${carpeta//\//-}
+  # What lies outside the home is not ours to make: such a directory counts as gone.
+  [[ $carpeta != "$casa"/* ]] || mkdir -p "$carpeta"
   mkdir -p "$proyecto"
   {
     printf '{"type":"user","cwd":"%s","sessionId":"%s"}\n' "$carpeta" "$id"

@@ -1,5 +1,6 @@
 #include "ZorveApp/Apertura.h"
 
+#include "ZorveApp/DirectorioPerdido.h"
 #include "ZorveApp/FraseDeTecleo.h"
 #include "ZorveApp/InterruptorDeVentanas.h"
 #include "ZorveCore/Terminales/Tecleado.h"
@@ -22,6 +23,13 @@ std::optional<std::string> fallaAlCorrer(ComandoDeApertura const& comando, Ejecu
   return textos.comandoFallo(comando.ejecutable, corrida->codigo, salida.empty() ? textos.sinSalida : salida);
 }
 
+/// A session that runs is brought to the front wherever its directory is.
+bool faltaSuDirectorio(PeticionDeApertura const& peticion) {
+  auto const& [sesion, servicios, ejecutor, textos, directorios] = peticion;
+  if (directorios == nullptr || sesion.liveState != LiveState::dead) return false;
+  return !directorios->losQueFaltan(std::span{&sesion.cwd, 1}).empty();
+}
+
 ResultadoDeApertura abrirCon(TerminalResuelta const& resuelta, PeticionDeApertura const& peticion,
                              std::function<void(TerminalResuelta const&)> const& alPlanear) {
   ResultadoDeApertura resultado{.terminal = resuelta};
@@ -34,6 +42,8 @@ ResultadoDeApertura abrirCon(TerminalResuelta const& resuelta, PeticionDeApertur
     if (sinEnfoque->tty && peticion.servicios.faltaUnInterruptor()) {
       resultado.consejo = TextosDelInterruptor::consejo(peticion.textos.idioma);
     }
+  } else if (faltaSuDirectorio(peticion)) {
+    resultado.error = TextosDelDirectorio::alAbrir(peticion.sesion.cwd, peticion.textos.idioma);
   } else {
     resultado.error =
         ejecutarComandos(std::get<std::vector<ComandoDeApertura>>(*plan), peticion.ejecutor, peticion.textos);

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "ZorveApp/Textos.h"
+#include "ZorveCore/Lectura/Directorios.h"
 #include "ZorveCore/Terminales/Ejecutor.h"
 #include "ZorveCore/Terminales/ServiciosDeApertura.h"
 
@@ -18,6 +19,8 @@ struct PeticionDeApertura {
   ServiciosDeApertura servicios;
   Ejecutor const& ejecutor;
   Textos textos;
+  /// Where a directory that is gone is told before any terminal opens; nowhere when null.
+  Directorios* directorios = nullptr;
 };
 
 /// `terminal`: what was resolved, nothing when that failed. At most one of `aviso` and `error`

@@ -49,7 +49,7 @@ inline constexpr Degradado bordeDeLuz{bordeSuperior, borde};
 /// Beyond the named colours: outlines and fills that are one of them at an opacity.
 inline constexpr Color contornoDeFila = acento.con(0.2);
 inline constexpr Color fondoDeError = error.con(0.08);
-inline constexpr Color fondoDeAviso = acento.con(0.08);
+inline constexpr Color fondoDeAviso = Color::blanco(0.05);
 inline constexpr Color fondoDeTecla = Color::blanco(0.07);
 inline constexpr Color fondoDeOpcion = Color::blanco(0.04);
 inline constexpr Color fondoDeBarraLateral = Color::blanco(0.03);
@@ -69,10 +69,10 @@ struct Tamano {
 inline constexpr Tamano panel{440, 560};
 inline constexpr double radioDelPanel = 14;
 inline constexpr double altoDeBusqueda = 55;
-inline constexpr double xDeLupa = 20;
-inline constexpr double xDeBusqueda = 48;
+inline constexpr double xDeLupa = 16;
+inline constexpr double xDeBusqueda = 44;
 inline constexpr double letraDeBusqueda = 14;
-inline constexpr double margenDeBanda = 12;
+inline constexpr double margenDeBanda = 8;
 inline constexpr double radioDeBanda = 8;
 inline constexpr double letraDeBanda = 11.5;
 inline constexpr double altoDeFila = 56;

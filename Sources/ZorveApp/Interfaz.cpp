@@ -18,7 +18,8 @@ ColaboradoresDelModelo delModelo(Cimientos const& sobre, PreferenciaDeIdioma con
           .portapapeles = sobre.portapapeles,
           .despachador = sobre.despachador,
           .idioma = idioma,
-          .regla = sobre.regla};
+          .regla = sobre.regla,
+          .directorios = sobre.directorios};
 }
 
 ColaboradoresDeAjustes deAjustes(Cimientos const& sobre, PreferenciaDeIdioma& idioma) {

@@ -32,6 +32,8 @@ struct Cimientos {
   Modificador principal = Modificador::mando;
   /// The packaged program's version; nothing when it runs from where it was built.
   std::optional<std::string> version;
+  /// Where directories that are gone are found out; nowhere when null.
+  Directorios* directorios = nullptr;
 };
 
 /// The portable whole of a program with a face: its models, and the values that the face draws. Main thread

@@ -37,6 +37,8 @@ class ListaFiltrada {
   void cambiarConsulta(std::string_view consulta);
 
   [[nodiscard]] std::span<std::size_t const> visibles() const { return visibles_; }
+  /// The folded words of the search text.
+  [[nodiscard]] std::span<std::string const> fichas() const { return fichas_; }
   [[nodiscard]] ReglaDePlegado regla() const { return regla_; }
 
  private:

@@ -4,11 +4,15 @@
 #include <cstdint>
 #include <utility>
 
+#include "ZorveApp/LineaDeReanudacion.h"
 #include "ZorveApp/TareaDeFondo.h"
 
 namespace zorve {
 
 namespace {
+
+/// How many directories are looked at after a load, those of the latest sessions.
+constexpr std::size_t directoriosMirados = 4096;
 
 std::string const& identificadorDe(Session const& sesion) {
   return sesion.sessionId ? *sesion.sessionId : sesion.cwd;
@@ -18,6 +22,17 @@ bool seLlama(Session const& sesion, std::string_view id) {
   auto const prefijo = textoCrudo(SessionKind::claude);
   return id.starts_with(prefijo) && id.substr(prefijo.size()).starts_with(':') &&
          id.substr(prefijo.size() + 1) == identificadorDe(sesion);
+}
+
+/// Each once, in the order of the sessions.
+std::vector<std::string> directoriosDe(std::span<Session const> sesiones) {
+  std::vector<std::string> rutas;
+  std::set<std::string_view> vistas;
+  for (auto const& sesion : sesiones) {
+    if (rutas.size() == directoriosMirados) break;
+    if (vistas.insert(sesion.cwd).second) rutas.push_back(sesion.cwd);
+  }
+  return rutas;
 }
 
 }  // namespace
@@ -133,6 +148,7 @@ void ModeloDeVista::terminarCarga(Carga carga) {
   escribirTerminal(std::move(carga.resolucion));
   refrescando_.escribir(false);
   corregirSeleccion();
+  mirarDirectorios();
 }
 
 void ModeloDeVista::escribirTerminal(Resolucion resolucion) {
@@ -147,10 +163,27 @@ void ModeloDeVista::escribirTerminal(Resolucion resolucion) {
   }
 }
 
+void ModeloDeVista::mirarDirectorios() {
+  if (con_.directorios == nullptr || mirando_ || resultado_->sesiones.empty()) return;
+  mirando_ = true;
+  enFondo(
+      con_.despachador, vida_,
+      [&donde = *con_.directorios, rutas = directoriosDe(resultado_->sesiones)] {
+        auto const perdidos = donde.losQueFaltan(rutas);
+        return std::set<std::string>{perdidos.begin(), perdidos.end()};
+      },
+      &ModeloDeVista::terminarMirada);
+}
+
+void ModeloDeVista::terminarMirada(std::set<std::string> perdidos) {
+  mirando_ = false;
+  perdidos_.escribir(std::move(perdidos));
+}
+
 void ModeloDeVista::abrirSeleccionada() {
   auto const* sesion = seleccionada();
   if (sesion == nullptr) return;
-  PeticionDeApertura peticion{*sesion, con_.servicios, con_.ejecutor, textos()};
+  PeticionDeApertura peticion{*sesion, con_.servicios, con_.ejecutor, textos(), con_.directorios};
   error_.escribir(std::nullopt);
   aviso_.escribir(std::nullopt);
   consejo_.escribir(std::nullopt);
@@ -175,7 +208,21 @@ void ModeloDeVista::terminarApertura(ResultadoDeApertura resultado) {
 void ModeloDeVista::copiarIdentificador() {
   auto const* sesion = seleccionada();
   if (sesion == nullptr) return;
-  auto const valor = identificadorDe(*sesion);
+  copiar(identificadorDe(*sesion));
+}
+
+void ModeloDeVista::copiarComando() {
+  auto const* sesion = seleccionada();
+  auto const linea = sesion != nullptr ? lineaDeReanudacion(*sesion) : std::nullopt;
+  if (linea) copiar(*linea);
+}
+
+void ModeloDeVista::copiarDirectorio() {
+  auto const* sesion = seleccionada();
+  if (sesion != nullptr) copiar(sesion->cwd);
+}
+
+void ModeloDeVista::copiar(std::string const& valor) {
   con_.portapapeles.copiar(valor);
   aviso_.escribir(textos().copiado(valor));
   consejo_.escribir(std::nullopt);
@@ -183,7 +230,7 @@ void ModeloDeVista::copiarIdentificador() {
 
 std::vector<Suscripcion> ModeloDeVista::observar(std::function<void()> const& observador) const {
   return observarTodas(observador, resultado_, consulta_, seleccion_, error_, aviso_, consejo_, refrescando_,
-                       terminal_, errorTerminal_);
+                       terminal_, errorTerminal_, perdidos_);
 }
 
 }  // namespace zorve

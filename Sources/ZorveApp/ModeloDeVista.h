@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -17,6 +18,7 @@
 #include "ZorveApp/ListaFiltrada.h"
 #include "ZorveApp/Observable.h"
 #include "ZorveApp/Portapapeles.h"
+#include "ZorveCore/Lectura/Directorios.h"
 
 namespace zorve {
 
@@ -31,6 +33,8 @@ struct ColaboradoresDelModelo {
   Despachador& despachador;
   PreferenciaDeIdioma const& idioma;
   ReglaDePlegado regla = ReglaDePlegado::general;
+  /// Where directories are looked for; nowhere when null. It outlives every task.
+  Directorios* directorios = nullptr;
 };
 
 /// The state behind the panel. Main thread only; loading, resolving, planning and running happen in the
@@ -51,6 +55,8 @@ class ModeloDeVista {
   [[nodiscard]] Observable<std::optional<std::string>> const& avisoDeApertura() const { return aviso_; }
   /// A second line after that one: what can be done about it.
   [[nodiscard]] Observable<std::optional<std::string>> const& consejo() const { return consejo_; }
+  /// The directories of sessions that were found to be gone after the last load.
+  [[nodiscard]] Observable<std::set<std::string>> const& directoriosPerdidos() const { return perdidos_; }
   [[nodiscard]] Observable<bool> const& refrescando() const { return refrescando_; }
   [[nodiscard]] Observable<std::optional<TerminalResuelta>> const& terminal() const { return terminal_; }
   [[nodiscard]] Observable<std::optional<std::string>> const& errorDeTerminal() const {
@@ -60,6 +66,9 @@ class ModeloDeVista {
   /// The positions in `resultado()->sesiones` of the sessions that the search keeps, in order. Valid until
   /// the next write.
   [[nodiscard]] std::span<std::size_t const> visibles() const { return lista_.visibles(); }
+  /// The search text's words, folded by `regla`. Valid until the next write.
+  [[nodiscard]] std::span<std::string const> fichas() const { return lista_.fichas(); }
+  [[nodiscard]] ReglaDePlegado regla() const { return lista_.regla(); }
   /// Where the selection stands in `visibles()`, or nothing.
   [[nodiscard]] std::optional<std::size_t> posicionSeleccionada() const;
   /// The selected session if the search shows it, else null. Valid until the next write.
@@ -84,6 +93,9 @@ class ModeloDeVista {
   void abrirSeleccionada();
   /// Copies the selected session's identifier (its directory when it has none) and says so.
   void copiarIdentificador();
+  /// The same with the line that resumes the selected session from any shell; nothing without such a line.
+  void copiarComando();
+  void copiarDirectorio();
 
   /// `observador` is called after each change of any property, until the subscriptions end.
   [[nodiscard]] std::vector<Suscripcion> observar(std::function<void()> const& observador) const;
@@ -96,6 +108,9 @@ class ModeloDeVista {
   void escribirTerminal(Resolucion resolucion);
   void terminarApertura(ResultadoDeApertura resultado);
   void ponerResultado(IndexResult nuevo, TextosPlegados plegados);
+  void copiar(std::string const& valor);
+  void mirarDirectorios();
+  void terminarMirada(std::set<std::string> perdidos);
   void corregirSeleccion();
   void escribirSeleccion(std::optional<std::size_t> fila);
 
@@ -114,6 +129,9 @@ class ModeloDeVista {
   std::uint64_t turnoEscrito_ = 0;
   /// The last turn given out; resolutions take theirs in the background, right before they ask.
   std::shared_ptr<std::atomic<std::uint64_t>> turnos_ = std::make_shared<std::atomic<std::uint64_t>>(0);
+  Observable<std::set<std::string>> perdidos_;
+  /// At most one look at the directories goes on at a time.
+  bool mirando_ = false;
   std::shared_ptr<ModeloDeVista*> vida_ = std::make_shared<ModeloDeVista*>(this);
 };
 

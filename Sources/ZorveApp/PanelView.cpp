@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "ZorveApp/DirectorioPerdido.h"
 #include "ZorveCore/Texto/Presentacion.h"
 
 namespace zorve {
@@ -27,6 +28,12 @@ std::optional<std::string> conteoDe(Session const& sesion, Textos const& textos)
 std::optional<std::string> ayudaDe(Session const& sesion, Textos const& textos) {
   if (sesion.tituloOrigen != TitleSource::derivedFromFirstPrompt) return std::nullopt;
   return std::string{textos.tituloDerivado};
+}
+
+std::optional<std::string> perdidaDe(Session const& sesion, std::set<std::string> const& perdidos,
+                                     Idioma idioma) {
+  if (!perdidos.contains(sesion.cwd)) return std::nullopt;
+  return std::string{TextosDelDirectorio::ayuda(idioma)};
 }
 
 }  // namespace
@@ -79,7 +86,16 @@ Fila PanelView::fila(std::size_t posicion) const {
           .tiempo = relativo(de.ultimaActividad, reloj_(), t.ahora),
           .conteo = conteoDe(de, t),
           .estado = de.liveState,
-          .seleccionada = seleccionada};
+          .seleccionada = seleccionada,
+          .marcasDeTitulo = tramosDe(de.titulo, modelo_.fichas(), modelo_.regla()),
+          .marcasDeRuta = enLoAbreviado(tramosDe(de.cwd, modelo_.fichas(), modelo_.regla()), de.cwd, home_),
+          .directorioPerdido = perdidaDe(de, *modelo_.directoriosPerdidos(), t.idioma)};
+}
+
+std::string PanelView::trozoDelPrompt(std::size_t posicion) const {
+  auto const& de = sesion(posicion);
+  if (!de.ultimoPrompt || modelo_.fichas().empty()) return {};
+  return trozoQueCoincide(de.titulo, de.cwd, *de.ultimoPrompt, modelo_.fichas(), modelo_.regla());
 }
 
 std::optional<std::size_t> PanelView::filaSeleccionada() const { return modelo_.posicionSeleccionada(); }
@@ -141,6 +157,31 @@ void PanelView::clicEnFila(std::size_t posicion) {
   if (posicion >= cantidadDeFilas()) return;
   modelo_.seleccionar(idDeFila(posicion));
   modelo_.abrirSeleccionada();
+}
+
+std::vector<EntradaDelMenuDeFila> PanelView::abrirMenuDeFila(std::size_t posicion) {
+  if (posicion >= cantidadDeFilas()) return {};
+  modelo_.seleccionar(idDeFila(posicion));
+  return menuDeFila(sesion(posicion), static_cast<bool>(acciones.mostrarDirectorio), textos().idioma);
+}
+
+void PanelView::elegirEnElMenu(std::string_view id, EntradaDelMenuDeFila::Clase cual) {
+  using Clase = EntradaDelMenuDeFila::Clase;
+  modelo_.seleccionar(id);
+  auto const* elegida = modelo_.seleccionada();
+  if (elegida == nullptr || elegida->id() != id) return;
+  switch (cual) {
+    case Clase::abrir:
+      return modelo_.abrirSeleccionada();
+    case Clase::copiarIdentificador:
+      return modelo_.copiarIdentificador();
+    case Clase::copiarComando:
+      return modelo_.copiarComando();
+    case Clase::copiarDirectorio:
+      return modelo_.copiarDirectorio();
+    case Clase::mostrarDirectorio:
+      if (acciones.mostrarDirectorio) acciones.mostrarDirectorio(elegida->cwd);
+  }
 }
 
 void PanelView::clicEnAjustes() { estado_.abrirLaVentanaDeAjustes(); }

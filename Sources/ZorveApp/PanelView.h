@@ -10,8 +10,10 @@
 #include <vector>
 
 #include "ZorveApp/EstadoDelPanel.h"
+#include "ZorveApp/MenuDeFila.h"
 #include "ZorveApp/ModeloDeVista.h"
 #include "ZorveApp/Teclado.h"
+#include "ZorveCore/Texto/Coincidencias.h"
 
 namespace zorve {
 
@@ -30,6 +32,11 @@ struct Fila {
   std::optional<std::string> conteo;
   LiveState estado = LiveState::dead;
   bool seleccionada = false;
+  /// What the search found in `titulo` and in `ruta`, in bytes of each; empty without a search.
+  std::vector<Tramo> marcasDeTitulo;
+  std::vector<Tramo> marcasDeRuta;
+  /// The help text of a directory that is gone, whose path is struck through; nothing for others.
+  std::optional<std::string> directorioPerdido;
 
   /// The second line as one text: the path and, for a live session, " · " and the live word.
   [[nodiscard]] std::string lineaDeRuta() const;
@@ -56,6 +63,8 @@ struct EntradaDeLeyenda {
 struct AccionesDelPanel {
   std::function<void()> esconder = [] {};
   std::function<void()> salir = [] {};
+  /// Shows a directory in the system's file manager. Empty where there is none.
+  std::function<void(std::string const&)> mostrarDirectorio = {};
 };
 
 /// The panel as values, made from the model at each call, and the way of keys, clicks and the search text to
@@ -83,9 +92,14 @@ class PanelView {
 
   /// Stands in place of the rows.
   [[nodiscard]] std::optional<std::string_view> marcador() const;
+  /// Whether there is no session at all, found or not.
+  [[nodiscard]] bool vacio() const { return modelo_.resultado()->sesiones.empty(); }
   [[nodiscard]] std::size_t cantidadDeFilas() const;
   /// The content of row `posicion`, below `cantidadDeFilas()`.
   [[nodiscard]] Fila fila(std::size_t posicion) const;
+  /// For a row that is there by its last prompt alone: the piece of that prompt around what was found. Empty
+  /// for others.
+  [[nodiscard]] std::string trozoDelPrompt(std::size_t posicion) const;
   /// `Session::id` of row `posicion`: the key by which rows are the same from one list to the next.
   [[nodiscard]] std::string idDeFila(std::size_t posicion) const;
   /// The row to keep in sight.
@@ -105,6 +119,11 @@ class PanelView {
   /// Selects the row and opens it.
   void clicEnFila(std::size_t posicion);
   void clicEnAjustes();
+  /// Selects the row, as its menu comes up over it. Gives the menu; nothing for a row that there is not.
+  std::vector<EntradaDelMenuDeFila> abrirMenuDeFila(std::size_t posicion);
+  /// What was chosen in the menu of the row with this `idDeFila`, wherever the row is by now. Does nothing
+  /// when it is gone.
+  void elegirEnElMenu(std::string_view id, EntradaDelMenuDeFila::Clase cual);
 
  private:
   [[nodiscard]] Textos textos() const { return textosDe(idioma_); }

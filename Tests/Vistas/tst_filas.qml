@@ -13,7 +13,7 @@ Item {
         id: fila
         FilaDeSesion {
             width: 440
-            index: 0; titulo: "Un título"; ayuda: ""; ruta: "~/src"; palabra: ""; tiempo: "5m"; conteo: "12 prompts"; estado: DatosDelPanel.Acabada
+            index: 0; titulo: "Un título"; ayuda: ""; perdida: ""; ruta: "~/src"; palabra: ""; tiempo: "5m"; conteo: "12 prompts"; estado: DatosDelPanel.Acabada; marcasDeTitulo: []; marcasDeRuta: []
             onPulsada: caso.pulsadas++
         }
     }
@@ -72,6 +72,60 @@ Item {
         function test_unaSesionAcabadaMuestraSoloLaRuta() {
             const una = createTemporaryObject(fila, caso)
             verify(!textos(una).some(t => t.visible && t.text.includes("·")))
+        }
+
+        function test_laRutaDeUnDirectorioPerdidoVaTachada() {
+            const una = createTemporaryObject(fila, caso, { perdida: "The directory no longer exists." })
+            verify(texto(una, "~/src").font.strikeout)
+            verify(una.ayudaEntera().includes("no longer exists"))
+            verify(!texto(createTemporaryObject(fila, caso), "~/src").font.strikeout)
+        }
+
+        function test_laAyudaDiceEnteroLoQueNoCabe() {
+            const largo = "m".repeat(200)
+            const una = createTemporaryObject(fila, caso, { titulo: largo, ruta: "/r".repeat(200), ayuda: "otra cosa" })
+            compare(una.ayudaEntera(), largo + "\n" + "/r".repeat(200) + "\notra cosa")
+            compare(createTemporaryObject(fila, caso).ayudaEntera(), "")
+        }
+
+        function test_elBotonSecundarioPideElMenuYNoPulsa() {
+            const una = createTemporaryObject(fila, caso)
+            const donde = createTemporaryQmlObject("import QtTest; SignalSpy { signalName: 'menuPedido' }", caso)
+            donde.target = una
+            caso.pulsadas = 0
+            mouseClick(una, 200, 28, Qt.RightButton)
+            compare(caso.pulsadas, 0)
+            compare(donde.count, 1)
+        }
+
+        function test_loQueSeBuscaSePintaDelAcentoYElRestoDelSuyo() {
+            const una = createTemporaryObject(fila, caso, { titulo: "un parser", marcasDeTitulo: [3, 9] })
+            const pintados = textos(una).filter(t => t.text === "un parser")
+            verify(pintados.some(t => Qt.colorEqual(t.color, Estilo.acento)))
+            verify(pintados.some(t => Qt.colorEqual(t.color, Estilo.textoAlto)))
+            for (const cada of textos(una)) compare(cada.textFormat, Text.PlainText)
+        }
+
+        function test_lasPiezasMidenLoQueElLetrero() {
+            for (const ruta of ["~/src/bench/parser", "/srv/señales/中文"]) {
+                const una = createTemporaryObject(fila, caso, { ruta: ruta })
+                const entera = Piezas.de(ruta, texto(una, ruta).font, 400, Text.ElideNone, [0, ruta.length])
+                const marcada = entera.piezas.find(p => p.marcada)
+                fuzzyCompare(marcada.x + marcada.ancho, texto(una, ruta).contentWidth, 1)
+            }
+        }
+
+        function test_sinBusquedaElTituloEsUnSoloLetrero() {
+            const una = createTemporaryObject(fila, caso, { titulo: "un parser" })
+            compare(textos(una).filter(t => t.text === "un parser").length, 1)
+        }
+
+        function test_laMarcaNoMueveLasLetras() {
+            const normal = createTemporaryObject(fila, caso, { titulo: "un parser" })
+            const una = createTemporaryObject(fila, caso, { titulo: "un parser", marcasDeTitulo: [3, 9] })
+            const sitio = (de, t) => t.mapToItem(de, 0, t.baselineOffset)
+            const esperado = sitio(normal, texto(normal, "un parser"))
+            for (const cada of textos(una).filter(t => t.text === "un parser")) compare(sitio(una, cada), esperado)
         }
 
         function test_unDobleClicPulsaUnaVez() {

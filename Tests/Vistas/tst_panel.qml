@@ -40,7 +40,7 @@ Item {
         function llenar(cuantas) {
             filasDePrueba.clear()
             for (let i = 0; i < cuantas; i++) {
-                filasDePrueba.append({ titulo: "Sesión " + i, ayuda: "", ruta: "~/r", palabra: "", tiempo: "1h", conteo: "", estado: DatosDelPanel.Acabada })
+                filasDePrueba.append({ titulo: "Sesión " + i, ayuda: "", perdida: "", ruta: "~/r", palabra: "", tiempo: "1h", conteo: "", estado: DatosDelPanel.Acabada, marcasDeTitulo: 0, marcasDeRuta: 0 })
             }
         }
         function lista() { return findChild(vista, "filas") }
@@ -50,8 +50,89 @@ Item {
             DatosDelPanel.banda = []
             DatosDelPanel.seleccion = -1
             DatosDelPanel.consulta = ""
+            DatosDelPanel.marcador = ""
+            DatosDelPanel.vacio = false
             panel.filaPedida = -1
             llenar(0)
+        }
+
+        function letreros(de) {
+            let todos = []
+            for (let i = 0; i < de.children.length; i++) {
+                if (de.children[i].text !== undefined && de.children[i].font !== undefined) todos.push(de.children[i])
+                todos = todos.concat(letreros(de.children[i]))
+            }
+            return todos
+        }
+
+        function test_ningunTextoEsDelColorMasDebil() {
+            llenar(20)
+            DatosDelPanel.seleccion = 1
+            DatosDelPanel.banda = [{ texto: "un aviso", esError: false }]
+            tryVerify(() => letreros(vista).length > 20)
+            for (const cada of letreros(vista)) verify(!Qt.colorEqual(cada.color, Estilo.textoDebil), cada.text)
+        }
+
+        function lugarEn(de, cual) { return cual.mapToItem(de, 0, 0).x }
+
+        function test_marcasTextosYBordesEstanEnUnaRejilla() {
+            llenar(3)
+            DatosDelPanel.seleccion = 0
+            DatosDelPanel.consulta = "a"
+            DatosDelPanel.banda = [{ texto: "un aviso", esError: false }]
+            tryVerify(() => lista().itemAtIndex(0) !== null)
+            const titulo = letreros(lista().itemAtIndex(0)).find(t => t.text === "Sesión 0")
+            compare(lugarEn(vista, titulo), 44)
+            compare(lugarEn(vista, campo()), 44)
+            compare(lugarEn(vista, letreros(findChild(vista, "banda")).find(t => t.text === "un aviso")), 44)
+            const tiempo = letreros(lista().itemAtIndex(0)).find(t => t.text === "1h")
+            fuzzyCompare(lugarEn(vista, tiempo) + tiempo.width, 420, 0.5)
+            compare(lugarEn(vista, findChild(vista, "engranaje")) + 20, 420)
+            compare(lugarEn(vista, findChild(lista().itemAtIndex(0), "tarjeta")), 8)
+        }
+
+        function test_laUltimaFilaConservaElMargenDelPieDeLaLista() {
+            llenar(30)
+            for (let cual = 0; cual < 30; cual++) DatosDelPanel.seleccion = cual
+            const l = lista()
+            tryVerify(() => l.itemAtIndex(29) !== null && l.atYEnd)
+            const ultima = l.itemAtIndex(29)
+            fuzzyCompare(l.height - (ultima.y + ultima.height - l.contentY), 6, 0.5)
+            for (let cual = 29; cual >= 0; cual--) DatosDelPanel.seleccion = cual
+            tryVerify(() => l.itemAtIndex(0) !== null && l.atYBeginning)
+            fuzzyCompare(l.itemAtIndex(0).y - l.contentY, 6, 0.5)
+        }
+
+        function test_laFilaElegidaNoSeDesvaneceAlPieDeLaLista() {
+            llenar(30)
+            const l = lista()
+            for (let cual = 0; cual < 20; cual++) DatosDelPanel.seleccion = cual
+            tryVerify(() => l.itemAtIndex(19) !== null)
+            const elegida = l.itemAtIndex(19)
+            verify(elegida.y + elegida.height - l.contentY <= l.height - findChild(vista, "fundidoDeLaLista").height + 0.5)
+            verify(findChild(vista, "fundidoDeLaLista").visible)
+            llenar(3)
+            tryVerify(() => !findChild(vista, "fundidoDeLaLista").visible)
+        }
+
+        function test_sinNingunaSesionElAvisoEstaBajoLaMarca() {
+            DatosDelPanel.vacio = true
+            DatosDelPanel.marcador = "no sessions"
+            DatosDelPanel.banda = [{ texto: "history: nothing there", esError: true }]
+            compare(findChild(vista, "banda").parent.visible, false)
+            tryVerify(() => letreros(findChild(vista, "marcador")).some(t => t.text === "history: nothing there"))
+            DatosDelPanel.vacio = false
+            DatosDelPanel.marcador = ""
+            compare(findChild(vista, "banda").parent.visible, true)
+        }
+
+        function test_sinCoincidenciasLoBuscadoQuedaEscogidoParaOtraBusqueda() {
+            DatosDelPanel.consulta = "nada"
+            compare(campo().selectedText, "")
+            DatosDelPanel.otraBusqueda()
+            compare(campo().selectedText, "nada")
+            DatosDelPanel.cambio()
+            compare(campo().selectedText, "nada")
         }
 
         function test_elCampoTieneElTeclado() {

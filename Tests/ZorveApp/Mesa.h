@@ -77,7 +77,8 @@ class Mesa : public ::testing::Test {
             .ejecutor = ejecutor,
             .portapapeles = portapapeles,
             .despachador = despachador,
-            .idioma = idioma};
+            .idioma = idioma,
+            .directorios = directorios};
   }
 
   std::shared_ptr<IndexResult> disco = std::make_shared<IndexResult>();
@@ -92,6 +93,8 @@ class Mesa : public ::testing::Test {
   dobles::EjecutorGuionado ejecutor;
   dobles::PortapapelesDePrueba portapapeles;
   dobles::DespachadorPaso despachador;
+  /// Where the models to come look for directories; nowhere at first.
+  Directorios* directorios = nullptr;
   std::unique_ptr<ModeloDeVista> modelo;
 };
 

@@ -313,5 +313,95 @@ TEST_F(PanelViewTest, cienMilSesionesNoCuestanHastaQueSeDibujan) {
   EXPECT_EQ(panel.fila(99'999).id, "claude:a");
 }
 
+TEST_F(PanelViewTest, loQueCoincideSeMarcaEnElTituloYEnElDirectorio) {
+  cargar({sesionDe("a", "Señales del parser", "/Users/ana/src/senales")});
+  panel.escribirConsulta("SEÑAL ana");
+  auto const fila = panel.fila(0);
+  EXPECT_EQ(fila.marcasDeTitulo, (std::vector<Tramo>{{0, 6}}));
+  EXPECT_EQ(fila.marcasDeRuta, (std::vector<Tramo>{{0, 1}, {6, 11}}));
+  panel.escribirConsulta("");
+  EXPECT_TRUE(panel.fila(0).marcasDeTitulo.empty());
+  EXPECT_TRUE(panel.fila(0).marcasDeRuta.empty());
+}
+
+TEST_F(PanelViewTest, laFilaQueEstaPorSuUltimoPromptMuestraDondeCoincide) {
+  auto sesion = sesionDe("a", "una");
+  sesion.ultimoPrompt = "compila y prueba todo";
+  cargar({sesion});
+  EXPECT_EQ(panel.trozoDelPrompt(0), "");
+  panel.escribirConsulta("PRUEBA");
+  EXPECT_EQ(panel.trozoDelPrompt(0), "compila y prueba todo");
+  panel.escribirConsulta("una");
+  EXPECT_EQ(panel.trozoDelPrompt(0), "");
+}
+
+std::vector<EntradaDelMenuDeFila::Clase> clasesDe(std::vector<EntradaDelMenuDeFila> const& menu) {
+  std::vector<EntradaDelMenuDeFila::Clase> clases;
+  for (auto const& [clase, titulo] : menu) clases.push_back(clase);
+  return clases;
+}
+
+using ClaseDelMenu = EntradaDelMenuDeFila::Clase;
+
+TEST_F(PanelViewTest, elMenuDeUnaFilaLaEligeSinAbrirla) {
+  panel.acciones.mostrarDirectorio = [](std::string const&) {};
+  cargar({sesionDe("a"), sesionDe("b")});
+  EXPECT_EQ(clasesDe(panel.abrirMenuDeFila(1)),
+            (std::vector{ClaseDelMenu::abrir, ClaseDelMenu::copiarIdentificador, ClaseDelMenu::copiarComando,
+                         ClaseDelMenu::copiarDirectorio, ClaseDelMenu::mostrarDirectorio}));
+  EXPECT_EQ(*modelo->seleccion(), "claude:b");
+  EXPECT_EQ(despachador.deFondo(), 0U);
+  EXPECT_TRUE(panel.abrirMenuDeFila(2).empty());
+}
+
+TEST_F(PanelViewTest, enElMenuNoEstaLoQueNoSePuede) {
+  auto sinId = sesionDe("a");
+  sinId.sessionId.reset();
+  cargar({sinId, sesionDe("b", "una",
+                          "/con\x1b"
+                          "control")});
+  EXPECT_EQ(clasesDe(panel.abrirMenuDeFila(0)),
+            (std::vector{ClaseDelMenu::abrir, ClaseDelMenu::copiarDirectorio}));
+  EXPECT_EQ(
+      clasesDe(panel.abrirMenuDeFila(1)),
+      (std::vector{ClaseDelMenu::abrir, ClaseDelMenu::copiarIdentificador, ClaseDelMenu::copiarDirectorio}));
+}
+
+TEST_F(PanelViewTest, elMenuHablaLosDosIdiomas) {
+  cargar({sesionDe("a")});
+  EXPECT_EQ(panel.abrirMenuDeFila(0).front().titulo, "Open");
+  enEspanol();
+  EXPECT_EQ(panel.abrirMenuDeFila(0).front().titulo, "Abrir");
+}
+
+TEST_F(PanelViewTest, loElegidoEnElMenuSeHaceConSuSesionDondeEsteYa) {
+  std::string mostrado;
+  panel.acciones.mostrarDirectorio = [&](std::string const& cual) { mostrado = cual; };
+  cargar({sesionDe("a", "una", "/a"), sesionDe("b", "otra", "/b c")});
+  auto const id = panel.idDeFila(1);
+  cargar({sesionDe("b", "otra", "/b c"), sesionDe("a", "una", "/a")});
+  panel.elegirEnElMenu(id, ClaseDelMenu::copiarIdentificador);
+  EXPECT_EQ(portapapeles.contenido, "b");
+  panel.elegirEnElMenu(id, ClaseDelMenu::copiarComando);
+  EXPECT_EQ(portapapeles.contenido, "cd '/b c' && claude -r 'b'");
+  EXPECT_EQ(*modelo->avisoDeApertura(), "Copied: cd '/b c' && claude -r 'b'");
+  panel.elegirEnElMenu(id, ClaseDelMenu::copiarDirectorio);
+  EXPECT_EQ(portapapeles.contenido, "/b c");
+  panel.elegirEnElMenu(id, ClaseDelMenu::mostrarDirectorio);
+  EXPECT_EQ(mostrado, "/b c");
+  panel.elegirEnElMenu(id, ClaseDelMenu::abrir);
+  EXPECT_EQ(despachador.deFondo(), 1U);
+}
+
+TEST_F(PanelViewTest, loElegidoParaUnaSesionQueYaNoEstaNoSeHace) {
+  cargar({sesionDe("a")});
+  auto const id = panel.idDeFila(0);
+  cargar({sesionDe("b")});
+  panel.elegirEnElMenu(id, ClaseDelMenu::copiarIdentificador);
+  panel.elegirEnElMenu(id, ClaseDelMenu::abrir);
+  EXPECT_EQ(portapapeles.copias, 0);
+  EXPECT_EQ(despachador.deFondo(), 0U);
+}
+
 }  // namespace
 }  // namespace zorve

@@ -81,6 +81,14 @@ enum : NSEventMask {
 + (void)removeMonitor:(id)eventMonitor;
 @end
 
+// Documentation: AppKit, NSMenu
+@interface NSMenu (DeApple)
+- (void)removeAllItems;
+- (BOOL)popUpMenuPositioningItem:(nullable NSMenuItem*)item
+                      atLocation:(NSPoint)location
+                          inView:(nullable NSView*)view;
+@end
+
 // Documentation: AppKit, NSCompositingOperation, NSBezierPath.LineCapStyle, NSBezierPath.LineJoinStyle
 enum : NSUInteger { NSCompositingOperationSourceOver = 2 };
 constexpr NSLineCapStyle NSLineCapStyleRound = static_cast<NSLineCapStyle>(1);

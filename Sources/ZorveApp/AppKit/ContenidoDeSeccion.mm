@@ -29,7 +29,7 @@ NSFont* letraDeGrupo() { return [NSFont systemFontOfSize:Medidas::letraDeRotulo 
 NSAttributedString* espaciado(std::string_view texto) {
   NSDictionary<NSAttributedStringKey, id>* const como = @{
     NSFontAttributeName : letraDeGrupo(),
-    NSForegroundColorAttributeName : zorve::colorLegible(Estilo::textoDebil),
+    NSForegroundColorAttributeName : zorve::colorLegible(Estilo::textoTenue),
     NSKernAttributeName : @1.1,
   };
   return [[NSAttributedString alloc] initWithString:zorve::cadena(texto) attributes:como];
@@ -143,7 +143,7 @@ NSAttributedString* espaciado(std::string_view texto) {
 
 - (NSTextField*)rotuloCon:(NSAttributedString*)texto {
   if (_rotulosUsados == _rotulos.count) {
-    [_rotulos addObject:zorve::rotulo(letraDeGrupo(), Estilo::textoDebil)];
+    [_rotulos addObject:zorve::rotulo(letraDeGrupo(), Estilo::textoTenue)];
   }
   NSTextField* const rotulo = _rotulos[_rotulosUsados++];
   rotulo.attributedStringValue = texto;

@@ -42,7 +42,12 @@
 - (void)instalarAcciones {
   __weak Delegado* const debil = self;
   _con->panel.acciones = {.esconder = [debil] { [debil esconder]; },
-                          .salir = [] { [NSApplication.sharedApplication terminate:nil]; }};
+                          .salir = [] { [NSApplication.sharedApplication terminate:nil]; },
+                          .mostrarDirectorio =
+                              [](std::string const& ruta) {
+                                [NSWorkspace.sharedWorkspace
+                                    openURL:[NSURL fileURLWithPath:zorve::cadena(ruta)]];
+                              }};
   _ajustes.alCerrar = ^{
     [debil cerradosLosAjustes];
   };
@@ -120,10 +125,10 @@
 /// A transient popover of a program without windows does not hear of presses in other programs.
 - (void)oirPulsacionesFuera {
   __weak Delegado* const debil = self;
-  _pulsacionesFuera.emplace(
-      NSEventMaskLeftMouseDown | NSEventMaskRightMouseDown | NSEventMaskOtherMouseDown, ^(NSEvent*) {
-        [debil cerrarPanel];
-      });
+  _pulsacionesFuera.emplace(NSEventMaskLeftMouseDown | NSEventMaskRightMouseDown | NSEventMaskOtherMouseDown,
+                            ^(NSEvent*) {
+                              [debil cerrarPanel];
+                            });
 }
 
 - (void)popoverWillClose:(NSNotification*)nota {

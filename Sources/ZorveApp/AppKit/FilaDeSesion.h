@@ -10,6 +10,8 @@ NS_ASSUME_NONNULL_BEGIN
 @interface FilaDeSesion : NSTableCellView
 /// Called when assistive software presses the row.
 @property(nonatomic, copy, nullable) void (^alPulsar)(FilaDeSesion* fila);
+/// Called when assistive software asks for the row's menu.
+@property(nonatomic, copy, nullable) void (^alPedirMenu)(FilaDeSesion* fila);
 - (void)mostrar:(zorve::Fila const&)fila;
 @end
 

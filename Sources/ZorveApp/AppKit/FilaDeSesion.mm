@@ -19,6 +19,38 @@ NSString* palabraDe(zorve::Fila const& fila) {
   return fila.palabraDeEstado ? [@" · " stringByAppendingString:zorve::cadena(*fila.palabraDeEstado)] : @"";
 }
 
+/// `texto` in `color`, what a search found of it in the accent colour.
+NSAttributedString* marcado(std::string const& texto, std::vector<zorve::Tramo> const& marcas,
+                            NSTextField* campo, zorve::Color const& color) {
+  NSMutableParagraphStyle* const parrafo = [[NSMutableParagraphStyle alloc] init];
+  parrafo.lineBreakMode = campo.lineBreakMode;
+  NSDictionary<NSAttributedStringKey, id>* const como = @{
+    NSFontAttributeName : campo.font,
+    NSForegroundColorAttributeName : zorve::colorLegible(color),
+    NSParagraphStyleAttributeName : parrafo,
+  };
+  NSMutableAttributedString* const todo =
+      [[NSMutableAttributedString alloc] initWithString:zorve::cadena(texto) attributes:como];
+  for (auto const& [desde, hasta] : marcas) {
+    NSUInteger const principio = zorve::cadena(texto.substr(0, desde)).length;
+    NSUInteger const largo = zorve::cadena(texto.substr(desde, hasta - desde)).length;
+    if (principio + largo > todo.length) break;
+    [todo addAttribute:NSForegroundColorAttributeName
+                 value:zorve::colorDe(Estilo::acento)
+                 range:NSMakeRange(principio, largo)];
+  }
+  return todo;
+}
+
+void escribir(NSTextField* campo, std::string const& texto, std::vector<zorve::Tramo> const& marcas,
+              zorve::Color const& color) {
+  if (marcas.empty()) {
+    campo.stringValue = zorve::cadena(texto);
+  } else {
+    campo.attributedStringValue = marcado(texto, marcas, campo, color);
+  }
+}
+
 NSString* paraVoz(zorve::Fila const& fila) {
   std::string texto = fila.titulo + ", " + fila.lineaDeRuta() + ", " + fila.tiempo;
   if (fila.conteo) texto += ", " + *fila.conteo;
@@ -53,7 +85,7 @@ void apretar(NSTextField* campo, NSLayoutPriority prioridad) {
     _ruta.lineBreakMode = NSLineBreakByTruncatingMiddle;
     _palabra = zorve::rotulo(fija, Estilo::ember);
     _tiempo = zorve::rotulo(cifras, Estilo::textoTenue);
-    _conteo = zorve::rotulo(cifras, Estilo::textoDebil);
+    _conteo = zorve::rotulo(cifras, Estilo::textoTenue);
     apretar(_titulo, NSLayoutPriorityDefaultLow);
     apretar(_ruta, NSLayoutPriorityDefaultLow);
     for (NSTextField* campo in @[ _palabra, _tiempo, _conteo ]) apretar(campo, NSLayoutPriorityRequired);
@@ -89,10 +121,13 @@ void apretar(NSTextField* campo, NSLayoutPriority prioridad) {
 }
 
 - (void)mostrar:(zorve::Fila const&)fila {
+  // Faint texts are stronger on the selection's card.
+  zorve::Color const tenue = fila.seleccionada ? Estilo::texto : Estilo::textoTenue;
+  for (NSTextField* campo in @[ _ruta, _tiempo, _conteo ]) campo.textColor = zorve::colorLegible(tenue);
   _punto.estado = fila.estado;
-  _titulo.stringValue = zorve::cadena(fila.titulo);
+  escribir(_titulo, fila.titulo, fila.marcasDeTitulo, Estilo::textoAlto);
   _titulo.toolTip = fila.ayuda ? zorve::cadena(*fila.ayuda) : nil;
-  _ruta.stringValue = zorve::cadena(fila.ruta);
+  escribir(_ruta, fila.ruta, fila.marcasDeRuta, tenue);
   _palabra.stringValue = palabraDe(fila);
   _tiempo.stringValue = zorve::cadena(fila.tiempo);
   _conteo.stringValue = cadenaDe(fila.conteo);
@@ -104,6 +139,12 @@ void apretar(NSTextField* campo, NSLayoutPriority prioridad) {
 - (BOOL)accessibilityPerformPress {
   if (self.alPulsar == nil) return NO;
   self.alPulsar(self);
+  return YES;
+}
+
+- (BOOL)accessibilityPerformShowMenu {
+  if (self.alPedirMenu == nil) return NO;
+  self.alPedirMenu(self);
   return YES;
 }
 

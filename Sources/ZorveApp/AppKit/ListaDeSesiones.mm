@@ -48,6 +48,8 @@ NSTableView* tablaSinAdornos() {
   NSTextField* _marcador;
   std::vector<std::string> _ids;
   std::string _elegida;
+  NSMenu* _menu;
+  std::string _idDelMenu;
 }
 
 - (instancetype)initConPanel:(zorve::PanelView&)panel {
@@ -58,6 +60,9 @@ NSTableView* tablaSinAdornos() {
     _tabla.delegate = self;
     _tabla.target = self;
     _tabla.action = @selector(clicEnLaTabla:);
+    _menu = [[NSMenu alloc] init];
+    _menu.delegate = static_cast<id>(self);
+    _tabla.menu = _menu;
     _desplazable = [[NSScrollView alloc] initWithFrame:NSZeroRect];
     _desplazable.documentView = _tabla;
     _desplazable.drawsBackground = NO;
@@ -142,6 +147,37 @@ NSTableView* tablaSinAdornos() {
   [self abrirFila:_tabla.clickedRow];
 }
 
+/// A secondary click: the table says which row is under it.
+- (void)menuNeedsUpdate:(NSMenu*)menu {
+  [self llenarMenuDe:_tabla.clickedRow];
+}
+
+- (void)llenarMenuDe:(NSInteger)fila {
+  [_menu removeAllItems];
+  if (![self vigente:fila]) return;
+  auto const posicion = static_cast<std::size_t>(fila);
+  _idDelMenu = _ids[posicion];
+  for (auto const& [clase, titulo] : _panel->abrirMenuDeFila(posicion)) {
+    NSMenuItem* const entrada = [[NSMenuItem alloc] initWithTitle:zorve::cadena(titulo)
+                                                           action:@selector(elegirDelMenu:)
+                                                    keyEquivalent:@""];
+    entrada.target = self;
+    entrada.tag = static_cast<NSInteger>(clase);
+    [_menu addItem:entrada];
+  }
+}
+
+- (void)elegirDelMenu:(NSMenuItem*)entrada {
+  _panel->elegirEnElMenu(_idDelMenu, static_cast<zorve::EntradaDelMenuDeFila::Clase>(entrada.tag));
+}
+
+- (void)abrirMenuDe:(FilaDeSesion*)celda {
+  [self llenarMenuDe:[_tabla rowForView:celda]];
+  _menu.delegate = nil;
+  [_menu popUpMenuPositioningItem:nil atLocation:NSMakePoint(Medidas::xDeTitulo, 0) inView:celda];
+  _menu.delegate = static_cast<id>(self);
+}
+
 - (NSInteger)numberOfRowsInTableView:(NSTableView*)tabla {
   return static_cast<NSInteger>(_ids.size());
 }
@@ -155,6 +191,9 @@ NSTableView* tablaSinAdornos() {
     celda.identifier = identificadorDeFila;
     __weak ListaDeSesiones* const debil = self;
     __weak NSTableView* const suTabla = tabla;
+    celda.alPedirMenu = ^(FilaDeSesion* cual) {
+      [debil abrirMenuDe:cual];
+    };
     celda.alPulsar = ^(FilaDeSesion* cual) {
       NSTableView* const entera = suTabla;
       if (entera != nil) [debil abrirFila:[entera rowForView:cual]];

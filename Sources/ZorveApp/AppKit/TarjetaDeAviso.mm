@@ -8,9 +8,9 @@ namespace Medidas = zorve::Medidas;
 
 namespace {
 
-constexpr CGFloat punto = 5;
-constexpr CGFloat xDelPunto = 12;
-constexpr CGFloat xDelTexto = 27;
+constexpr CGFloat punto = 6;
+constexpr CGFloat xDelPunto = 13;
+constexpr CGFloat xDelTexto = 36;
 constexpr CGFloat margen = 9;
 
 }  // namespace
@@ -47,7 +47,7 @@ constexpr CGFloat margen = 9;
   bool const esError = _clase == zorve::LineaDeBanda::Clase::error;
   zorve::Color const tinta = esError ? Estilo::error : Estilo::acento;
   zorve::tarjeta(self.bounds, Medidas::radioDeBanda, esError ? Estilo::fondoDeError : Estilo::fondoDeAviso,
-                 tinta.con(0.16));
+                 esError ? tinta.con(0.16) : zorve::Color::blanco(0.1));
   [zorve::colorDe(tinta) setFill];
   [[NSBezierPath bezierPathWithOvalInRect:NSMakeRect(xDelPunto, margen + 5, punto, punto)] fill];
 }

@@ -10,6 +10,7 @@
 #include "ZorveApp/Qt/Puentes/Prestamo.h"
 #include "ZorveApp/Qt/Puentes/TextosPropios.h"
 #include "ZorveApp/Qt/Ventanas/ExtensionDeGnome.h"
+#include "ZorveApp/Qt/Ventanas/GestorDeArchivos.h"
 
 namespace zorve {
 
@@ -36,12 +37,15 @@ DelegadoQt::DelegadoQt(ColaboradoresDelDelegadoQt con)
       barra_{{[this](ClicEnLaBarra clic) { alClic(clic); },
               [this](EntradaDelMenu::Clase cual) { item_.elegir(cual); }, [this] { item_.reabrir(); }}},
       puente_{con.panel, con.idioma} {
-  con_.panel.acciones = {[this] { cerrarPanel(); }, [this] { item_.salir(); }};
+  con_.panel.acciones = {
+      [this] { cerrarPanel(); }, [this] { item_.salir(); },
+      [this](std::string const& cual) { mostrarEnElGestorDeArchivos(cual, con_.activacion); }};
   con_.ajustes.acciones = {[this] { ventanaDeAjustes_->hide(); }, [this] { item_.salir(); }};
   minutero_.setInterval(pasoDelReloj);
   reposo_.setInterval(esperaDeReposo);
   reposo_.setSingleShot(true);
   connect(&reposo_, &QTimer::timeout, this, devolverMemoria);
+  connect(&puente_.datos(), &DatosDelPanel::menuPedido, this, &DelegadoQt::mostrarMenuDeFila);
   connect(&minutero_, &QTimer::timeout, &puente_, &PuenteDelPanel::actualizarTiempos);
   connect(&gustos_, &GustosDelEscritorio::cambio, this, &DelegadoQt::atenderGustos);
   idioma_ = con_.idioma.idioma().observar([this] { escribirMenu(); });
@@ -61,8 +65,10 @@ void DelegadoQt::arrancar() {
 VentanaDelPanel& DelegadoQt::ventana() {
   if (ventana_) return *ventana_;
   preferirEmojiEnColor();
-  ventana_ = std::make_unique<VentanaDelPanel>(
-      *sistema_, [this](Pulsacion const& tecla) { return con_.panel.tecla(tecla); });
+  ventana_ = std::make_unique<VentanaDelPanel>(*sistema_,
+                                               [this](Pulsacion const& tecla) { return alPulsar(tecla); });
+  connect(ventana_.get(), &VentanaDelPanel::menuLlamado, &puente_.datos(), &DatosDelPanel::menuLlamado);
+  connect(ventana_.get(), &VentanaDelPanel::escondida, this, [this] { menuDeFila_.cerrar(); });
   connect(ventana_.get(), &VentanaDelPanel::escondida, &minutero_, &QTimer::stop);
   // Counted from the first of several quick showings, so that they leave no more behind than one does.
   connect(ventana_.get(), &VentanaDelPanel::escondida, &reposo_, [this] {
@@ -73,6 +79,15 @@ VentanaDelPanel& DelegadoQt::ventana() {
   estilo_.vestir(gustos_.dePantalla());
   ventana_->preparar();
   return *ventana_;
+}
+
+/// Return with nothing to open asks for another search.
+bool DelegadoQt::alPulsar(Pulsacion const& tecla) {
+  bool const suya = con_.panel.tecla(tecla);
+  if (suya && tecla.tecla == Tecla::retorno && con_.panel.cantidadDeFilas() == 0) {
+    Q_EMIT puente_.datos().otraBusqueda();
+  }
+  return suya;
 }
 
 void DelegadoQt::avisarSiNoHayBandeja() {
@@ -98,6 +113,16 @@ void DelegadoQt::atenderGustos() {
   if (ventanaDeAjustes_) ventanaDeAjustes_->vestir(gustos);
 }
 
+void DelegadoQt::mostrarMenuDeFila(int posicion, QPointF const& donde) {
+  if (posicion < 0 || static_cast<std::size_t>(posicion) >= con_.panel.cantidadDeFilas()) return;
+  auto const cual = static_cast<std::size_t>(posicion);
+  auto const entradas = con_.panel.abrirMenuDeFila(cual);
+  menuDeFila_.abrir(entradas, ventana(), ventana().mapToGlobal(donde.toPoint()), gustos_.dePantalla().escala,
+                    [this, id = con_.panel.idDeFila(cual)](EntradaDelMenuDeFila::Clase elegida) {
+                      con_.panel.elegirEnElMenu(id, elegida);
+                    });
+}
+
 void DelegadoQt::reabrir(Testigo testigo, ServicioDeSesion::Quien quien) {
   sinTeclado_ = testigo.vacio() && quien == ServicioDeSesion::Quien::cualquiera;
   con_.activacion.recibir(std::move(testigo));
@@ -110,7 +135,7 @@ void DelegadoQt::alClic(ClicEnLaBarra clic) {
   if (!quisoCerrar) item_.clic(clic);
 }
 
-bool DelegadoQt::panelVisible() const { return ventana_ && ventana_->isVisible(); }
+bool DelegadoQt::panelVisible() const { return ventana_ && ventana_->mostrada(); }
 
 void DelegadoQt::mostrarPanel() {
   bool const aparece = !panelVisible();

@@ -12,6 +12,7 @@
 #include "ZorveApp/Qt/Dibujo/EstiloQt.h"
 #include "ZorveApp/Qt/Puentes/PuenteDelPanel.h"
 #include "ZorveApp/Qt/Ventanas/GustosDelEscritorio.h"
+#include "ZorveApp/Qt/Ventanas/MenuDeFilaQt.h"
 #include "ZorveApp/Qt/Ventanas/SistemaDeVentanas.h"
 #include "ZorveApp/Qt/Ventanas/VentanaDeAjustes.h"
 #include "ZorveApp/Qt/Ventanas/VentanaDelPanel.h"
@@ -51,10 +52,12 @@ class DelegadoQt final : public QObject, public CaraDelItem {
 
  private:
   void alClic(ClicEnLaBarra clic);
+  bool alPulsar(Pulsacion const& tecla);
   /// The panel's window, built and prepared by the first who asks.
   VentanaDelPanel& ventana();
   void avisarSiNoHayBandeja();
   void escribirMenu();
+  void mostrarMenuDeFila(int posicion, QPointF const& donde);
   void atenderGustos();
 
   ColaboradoresDelDelegadoQt con_;
@@ -67,6 +70,7 @@ class DelegadoQt final : public QObject, public CaraDelItem {
   PuenteDelPanel puente_;
   EstiloQt estilo_{nullptr};
   std::unique_ptr<VentanaDelPanel> ventana_;
+  MenuDeFilaQt menuDeFila_;
   std::unique_ptr<VentanaDeAjustes> ventanaDeAjustes_;
   QTimer minutero_;
   QTimer reposo_;

@@ -18,6 +18,7 @@
 #include "ZorveApp/Qt/Puentes/TiposDeQml.h"
 #include "ZorveApp/Qt/Ventanas/ExtensionDeGnome.h"
 #include "ZorveApp/Qt/Ventanas/InterruptorDeGnome.h"
+#include "ZorvePlatform/Linux/DirectoriosLinux.h"
 #include "ZorvePlatform/Linux/InicioDeSesionLinux.h"
 #include "ZorvePlatform/Linux/RutaDelAyudante.h"
 #include "ZorvePlatform/Posix/ArchivosPosix.h"
@@ -61,6 +62,7 @@ struct Mundo {
   EjecutorConTestigo ejecutor;
   PortapapelesQt portapapeles;
   DespachadorQt despachador;
+  DirectoriosLinux directorios;
   InicioDeSesionLinux inicio{EntornoLinux::delProceso(home), ejecutable};
 
   [[nodiscard]] Cimientos cimientos() {
@@ -75,7 +77,8 @@ struct Mundo {
             .despachador = despachador,
             .regla = reglaDelEntorno(),
             .principal = modificadorPrincipal,
-            .version = version(ejecutable)};
+            .version = version(ejecutable),
+            .directorios = &directorios};
   }
 };
 

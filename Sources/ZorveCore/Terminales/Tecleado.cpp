@@ -1,7 +1,5 @@
 #include "ZorveCore/Terminales/Tecleado.h"
 
-#include <string_view>
-
 #include "ZorveCore/Lectura/Archivos.h"
 #include "ZorveCore/Texto/Texto.h"
 #include "ZorveCore/Texto/TextoVisible.h"
@@ -17,16 +15,6 @@ constexpr std::int32_t ultimoControl = 0x9F;
 bool esControl(std::int32_t punto) {
   return (punto < primeraLetra && punto != '\t' && punto != '\n') ||
          (punto >= suprimir && punto <= ultimoControl);
-}
-
-/// A byte that is no UTF-8 is what it is in the terminals' older encodings.
-bool tieneControles(std::string_view texto) {
-  while (!texto.empty()) {
-    auto const [punto, bytes] = puntoAlInicio(texto);
-    if (esControl(punto < 0 ? static_cast<unsigned char>(texto.front()) : punto)) return true;
-    texto.remove_prefix(bytes);
-  }
-  return false;
 }
 
 /// The script's programs are typed into terminals by AppleScript alone: "osascript -e SCRIPT".
@@ -45,6 +33,16 @@ std::string_view directorioDe(std::string_view guion) {
 }
 
 }  // namespace
+
+bool tieneControles(std::string_view texto) {
+  while (!texto.empty()) {
+    auto const [punto, bytes] = puntoAlInicio(texto);
+    // A byte that is no UTF-8 is what it is in the terminals' older encodings.
+    if (esControl(punto < 0 ? static_cast<unsigned char>(texto.front()) : punto)) return true;
+    texto.remove_prefix(bytes);
+  }
+  return false;
+}
 
 std::optional<std::string> loQueNoSeTeclea(std::span<ComandoDeApertura const> comandos) {
   for (auto const& comando : comandos) {

@@ -3,6 +3,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "ZorveCore/Terminales/PlanDeApertura.h"
 
@@ -13,5 +14,8 @@ namespace zorve {
 /// holds a control character (below U+0020 but tab and line feed, U+007F to U+009F, or such a byte), with
 /// those made visible. Nothing where there is none, or where nothing is typed.
 [[nodiscard]] std::optional<std::string> loQueNoSeTeclea(std::span<ComandoDeApertura const> comandos);
+
+/// Whether `texto` holds one of those characters.
+[[nodiscard]] bool tieneControles(std::string_view texto);
 
 }  // namespace zorve

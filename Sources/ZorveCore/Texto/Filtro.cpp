@@ -37,17 +37,15 @@ bool acabaEnCaracter(std::string_view texto, std::size_t largo) {
   return true;
 }
 
-bool contieneCaracteres(std::string_view texto, std::string_view ficha) {
-  while (texto.size() >= ficha.size()) {
-    if (texto.starts_with(ficha) && acabaEnCaracter(texto, ficha.size())) return true;
-    if (texto.empty()) return false;
-    texto.remove_prefix(puntoAlInicio(texto).bytes);
+std::size_t dondeEstanLosCaracteres(std::string_view texto, std::string_view ficha, std::size_t desde) {
+  std::size_t donde = 0;
+  while (texto.size() - donde >= ficha.size()) {
+    auto const resto = texto.substr(donde);
+    if (donde >= desde && resto.starts_with(ficha) && acabaEnCaracter(resto, ficha.size())) return donde;
+    if (resto.empty()) break;
+    donde += puntoAlInicio(resto).bytes;
   }
-  return false;
-}
-
-bool contiene(std::string_view texto, std::string_view ficha) {
-  return esUtf8(ficha) ? texto.contains(ficha) : contieneCaracteres(texto, ficha);
+  return std::string_view::npos;
 }
 
 class Criba {
@@ -97,9 +95,15 @@ std::string textoDeBusqueda(Session const& sesion, ReglaDePlegado regla) {
   return plegar(texto, regla);
 }
 
+std::size_t dondeEsta(std::string_view textoPlegado, std::string_view ficha, std::size_t desde) {
+  return esUtf8(ficha) ? textoPlegado.find(ficha, desde)
+                       : dondeEstanLosCaracteres(textoPlegado, ficha, desde);
+}
+
 bool coincide(std::string_view textoPlegado, std::span<std::string const> fichas) {
-  return std::ranges::all_of(fichas,
-                             [textoPlegado](auto const& ficha) { return contiene(textoPlegado, ficha); });
+  return std::ranges::all_of(fichas, [textoPlegado](auto const& ficha) {
+    return dondeEsta(textoPlegado, ficha, 0) != std::string_view::npos;
+  });
 }
 
 std::vector<std::size_t> filtrar(std::span<Session const> sesiones, std::string_view consulta,

@@ -20,6 +20,10 @@ namespace zorve {
 /// Whether every word occurs in the folded text.
 [[nodiscard]] bool coincide(std::string_view textoPlegado, std::span<std::string const> fichas);
 
+/// Where the word begins in the folded text, at or after `desde`; `npos` when it does not occur there. A word
+/// that is no UTF-8 occurs at whole characters alone.
+[[nodiscard]] std::size_t dondeEsta(std::string_view textoPlegado, std::string_view ficha, std::size_t desde);
+
 /// The positions, in order, of the sessions in which every word of `consulta` occurs (title, directory or
 /// last prompt; case and accents ignored). With no word: all of them. Any thread.
 [[nodiscard]] std::vector<std::size_t> filtrar(std::span<Session const> sesiones, std::string_view consulta,

@@ -12,6 +12,13 @@ std::string unidades(double segundos, double porUnidad, char unidad) {
   return std::to_string(static_cast<std::int64_t>(std::min(segundos / porUnidad, maximo))) + unidad;
 }
 
+/// How many bytes at the start of `ruta` are written "~".
+std::size_t bytesDelHome(std::string_view ruta, std::string_view home) {
+  bool const bajoHome =
+      !home.empty() && ruta.starts_with(home) && (ruta.size() == home.size() || ruta[home.size()] == '/');
+  return bajoHome ? home.size() : 0;
+}
+
 }  // namespace
 
 std::string relativo(Fecha fecha, Fecha ahora, std::string_view palabraAhora) {
@@ -26,10 +33,24 @@ std::string relativo(Fecha fecha, Fecha ahora, std::string_view palabraAhora) {
 }
 
 std::string abreviar(std::string_view ruta, std::string_view home) {
-  bool const bajoHome = !home.empty() && ruta.starts_with(home);
-  auto const resto = ruta.substr(bajoHome ? home.size() : 0);
-  if (!bajoHome || (!resto.empty() && resto.front() != '/')) return std::string{ruta};
-  return "~" + std::string{resto};
+  auto const suyos = bytesDelHome(ruta, home);
+  return (suyos > 0 ? "~" : "") + std::string{ruta.substr(suyos)};
+}
+
+std::vector<Tramo> enLoAbreviado(std::vector<Tramo> tramos, std::string_view ruta, std::string_view home) {
+  auto const suyos = bytesDelHome(ruta, home);
+  if (suyos == 0) return tramos;
+  std::vector<Tramo> abreviados;
+  for (auto const& [desde, hasta] : tramos) {
+    Tramo const nuevo{desde < suyos ? 0 : desde - suyos + 1, hasta <= suyos ? 1 : hasta - suyos + 1};
+    bool const sigue = !abreviados.empty() && nuevo.desde <= abreviados.back().hasta;
+    if (sigue) {
+      abreviados.back().hasta = nuevo.hasta;
+    } else {
+      abreviados.push_back(nuevo);
+    }
+  }
+  return abreviados;
 }
 
 }  // namespace zorve

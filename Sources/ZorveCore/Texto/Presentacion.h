@@ -2,8 +2,10 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "ZorveCore/Modelo.h"
+#include "ZorveCore/Texto/Coincidencias.h"
 
 namespace zorve {
 
@@ -13,5 +15,9 @@ namespace zorve {
 
 /// `ruta` with the home directory at its start written "~". `home` is absolute, without a slash at its end.
 [[nodiscard]] std::string abreviar(std::string_view ruta, std::string_view home);
+
+/// Parts of `ruta` as parts of `abreviar(ruta, home)`; what lies in the home directory is the "~".
+[[nodiscard]] std::vector<Tramo> enLoAbreviado(std::vector<Tramo> tramos, std::string_view ruta,
+                                               std::string_view home);
 
 }  // namespace zorve

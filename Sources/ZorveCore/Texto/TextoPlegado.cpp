@@ -221,6 +221,11 @@ std::string plegar(std::string_view texto, ReglaDePlegado regla) {
   return plegado;
 }
 
+bool esMarcaSuelta(std::string_view texto) {
+  auto const punto = puntoAlInicio(texto).valor;
+  return punto >= 0 && esMarca(punto);
+}
+
 bool igualesSinMayusculas(std::string_view uno, std::string_view otro) {
   return sinMayusculas(uno) == sinMayusculas(otro);
 }

@@ -19,6 +19,9 @@ enum class ReglaDePlegado : unsigned char { general, turca };
 /// The same, appended to `destino`, whose memory can be used again and again.
 void agregarPlegado(std::string& destino, std::string_view texto, ReglaDePlegado regla);
 
+/// Whether `texto` begins with a non-spacing mark, which folds by what stands before it.
+[[nodiscard]] bool esMarcaSuelta(std::string_view texto);
+
 /// Whether both are the same text but for case, by Unicode's full case folding; bytes that are no UTF-8 make
 /// a text equal to itself only.
 [[nodiscard]] bool igualesSinMayusculas(std::string_view uno, std::string_view otro);

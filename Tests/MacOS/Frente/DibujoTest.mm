@@ -119,7 +119,7 @@ TEST_F(ElDibujo, elPanelEnteroSeDibuja) {
   auto const trazos = tramoya::dibujar(panel());
   EXPECT_TRUE(hay(trazos, "gradient"));
   EXPECT_TRUE(hay(trazos, "stroke oval 5 5 6 6"));
-  EXPECT_TRUE(hay(trazos, "fill oval 12 14 5 5"));
+  EXPECT_TRUE(hay(trazos, "fill oval 13 14 6 6"));
 }
 
 TEST_F(ElDibujo, losAjustesEnterosSeDibujanConLaElegidaSobreSuTarjeta) {

@@ -151,6 +151,67 @@ TEST_F(DeLaLista, laLineaNoEstaJuntoALaElegidaNiBajoLaUltima) {
   EXPECT_EQ(lineas, (std::vector<bool>{false, false, true, false}));
 }
 
+TEST_F(DeLaLista, unClicSecundarioAbreElMenuDeSuFilaSinAbrirla) {
+  abrirCon(3);
+  [tabla() pulsarDerechoEnFila:2];
+  correr();
+  EXPECT_EQ(tramoya::menusAbiertos().back(),
+            (std::vector<std::string>{"Open", "Copy identifier", "Copy command that resumes it",
+                                      "Copy directory", "Show directory"}));
+  EXPECT_EQ([tabla() selectedRow], 2);
+  EXPECT_EQ(abiertas(), 0U);
+}
+
+TEST_F(DeLaLista, fueraDeLasFilasNoHayMenu) {
+  abrirCon(3);
+  [tabla() pulsarDerechoEnFila:-1];
+  EXPECT_TRUE(tramoya::menusAbiertos().empty());
+}
+
+TEST_F(DeLaLista, loElegidoEnElMenuSeHaceConSuFila) {
+  enDisco({sesion("s0", "una"), sesion("s1", "otra", "/src/it's")});
+  abrirElPanel();
+  auto const elegir = [&](NSInteger cual) {
+    tramoya::conElMenu([cual](NSMenu* menu) { tramoya::elegirDelMenu(menu, cual); });
+    [tabla() pulsarDerechoEnFila:1];
+    correr();
+  };
+  elegir(1);
+  EXPECT_EQ(portapapeles.contenido, "s1");
+  elegir(2);
+  EXPECT_EQ(portapapeles.contenido, R"(cd '/src/it'\''s' && claude -r 's1')");
+  elegir(3);
+  EXPECT_EQ(portapapeles.contenido, "/src/it's");
+  elegir(4);
+  EXPECT_EQ(tramoya::veces("workspace opens /src/it's"), 1U);
+  EXPECT_EQ(abiertas(), 0U);
+  elegir(0);
+  EXPECT_EQ(ejecutor.llamadas().back().back(), "claude -r 's1'");
+}
+
+TEST_F(DeLaLista, quienUsaUnLectorAbreElMenuDeLaFilaQueOyo) {
+  abrirCon(3);
+  tramoya::conElMenu([](NSMenu* menu) { tramoya::elegirDelMenu(menu, 1); });
+  EXPECT_TRUE([static_cast<NSView*>(celda(1)) accessibilityPerformShowMenu]);
+  correr();
+  EXPECT_EQ(portapapeles.contenido, "s1");
+}
+
+TEST_F(DeLaLista, loQueSeBuscaSePintaDelAcento) {
+  enDisco({sesion("s0", "Añadir un parser", "/Users/ana/parser")});
+  abrirElPanel();
+  NSTextField* const rotulo = [celda(0) textField];
+  EXPECT_EQ(tramoya::atributo(rotulo, NSForegroundColorAttributeName, 0), nil);
+  escribir("parser");
+  EXPECT_EQ(titulo(0), "Añadir un parser");
+  id const del = tramoya::atributo(rotulo, NSForegroundColorAttributeName, 0);
+  id const suyo = tramoya::atributo(rotulo, NSForegroundColorAttributeName, 10);
+  EXPECT_NE(suyo, nil);
+  EXPECT_NE(suyo, del);
+  EXPECT_EQ(tramoya::atributo(rotulo, NSForegroundColorAttributeName, 15), suyo);
+  EXPECT_EQ(tramoya::atributo(rotulo, NSForegroundColorAttributeName, 9), del);
+}
+
 TEST_F(DeLaLista, laTablaNoTomaElTeclado) {
   abrirCon(3);
   EXPECT_TRUE(tabla().refusesFirstResponder);

@@ -77,11 +77,8 @@ constexpr NSRect lugarDelItem{{1200, 900}, {24, 22}};
     [self sendAction:self.action to:self.target];
     return;
   }
-  std::vector<std::string> titulos;
-  for (NSMenuItem* uno in menu.itemArray) titulos.push_back(tramoya::utf8(uno.title));
-  abiertos.push_back(titulos);
   tramoya::anota("status menu opens");
-  if (alAbrirMenu) alAbrirMenu(menu);
+  tramoya::mostrarMenu(menu);
 }
 @end
 
@@ -156,6 +153,23 @@ constexpr NSRect lugarDelItem{{1200, 900}, {24, 22}};
 
 @implementation NSMenu {
   NSMutableArray* _entradas;
+  __weak id _delegado;
+}
+- (id)delegate {
+  return _delegado;
+}
+- (void)setDelegate:(id)delegado {
+  _delegado = delegado;
+}
+- (void)removeAllItems {
+  [_entradas removeAllObjects];
+}
+/// Documented: a menu without entries does not come up.
+- (BOOL)popUpMenuPositioningItem:(NSMenuItem*)entrada atLocation:(NSPoint)donde inView:(NSView*)vista {
+  if (_delegado != nil) [_delegado menuNeedsUpdate:self];
+  if (_entradas.count == 0) return NO;
+  tramoya::mostrarMenu(self);
+  return YES;
 }
 - (instancetype)init {
   if ((self = [super init])) _entradas = [NSMutableArray array];
@@ -243,6 +257,13 @@ constexpr NSRect lugarDelItem{{1200, 900}, {24, 22}};
 @end
 
 namespace tramoya {
+
+void mostrarMenu(NSMenu* menu) {
+  std::vector<std::string> titulos;
+  for (NSMenuItem* uno in menu.itemArray) titulos.push_back(tramoya::utf8(uno.title));
+  abiertos.push_back(titulos);
+  if (alAbrirMenu) alAbrirMenu(menu);
+}
 
 void pulsarItem(Boton boton, NSUInteger modificadores) {
   @autoreleasepool {

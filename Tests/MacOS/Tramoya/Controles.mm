@@ -5,6 +5,7 @@
 NSString* NSFontAttributeName = @"NSFont";
 NSString* NSForegroundColorAttributeName = @"NSColor";
 NSString* NSKernAttributeName = @"NSKern";
+NSString* NSParagraphStyleAttributeName = @"NSParagraphStyle";
 
 @implementation NSControl
 - (BOOL)sendAction:(SEL)accion to:(id)quien {

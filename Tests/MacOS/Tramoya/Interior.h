@@ -16,6 +16,8 @@ void reponerDespacho();
 void reponerVentanas();
 void reponerBarra();
 void reponerEventos();
+/// Notes the menu and has the test choose in it.
+void mostrarMenu(NSMenu* menu);
 /// Lays out every table that shows and asks for it.
 void acomodar();
 

@@ -199,6 +199,10 @@ using tramoya::utf8;
   if (!sistema().aplicaciones.contains(utf8(identificador))) return nil;
   return [NSURL fileURLWithPath:texto("/Applications/" + utf8(identificador))];
 }
+- (BOOL)openURL:(NSURL*)cual {
+  tramoya::anota("workspace opens " + utf8(cual.path));
+  return YES;
+}
 - (NSURL*)URLForApplicationToOpenContentType:(UTType*)tipo {
   auto const quien = sistema().manejadores.find(utf8([tipo valueForKey:@"identifier"]));
   return quien == sistema().manejadores.end()

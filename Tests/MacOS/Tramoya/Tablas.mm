@@ -193,4 +193,9 @@
   [self sendAction:self.action to:self.target];
   _pulsada = -1;
 }
+- (void)pulsarDerechoEnFila:(NSInteger)fila {
+  _pulsada = fila;
+  [self.menu popUpMenuPositioningItem:nil atLocation:NSZeroPoint inView:self];
+  _pulsada = -1;
+}
 @end

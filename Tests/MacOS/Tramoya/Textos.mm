@@ -174,9 +174,47 @@ std::string deCorto(std::uintptr_t bits) {
 - (NSDictionary*)attributesAtIndex:(NSUInteger)donde effectiveRange:(NSRangePointer)hasta {
   return _como;
 }
+- (NSUInteger)length {
+  return _texto.length;
+}
+- (id)attribute:(NSString*)nombre atIndex:(NSUInteger)donde effectiveRange:(NSRangePointer)hasta {
+  return [_como objectForKey:nombre];
+}
+@end
+
+void _NSRangeExceptionRaise() { tramoya::faltas().push_back("a range ends beyond the largest number"); }
+
+@implementation NSMutableAttributedString {
+  struct Puesto {
+    std::string nombre;
+    id valor;
+    NSRange donde;
+  };
+  std::vector<Puesto> _puestos;
+}
+- (void)addAttribute:(NSString*)nombre value:(id)valor range:(NSRange)donde {
+  if (NSMaxRange(donde) > self.length) tramoya::faltas().push_back("an attribute reaches beyond its text");
+  _puestos.push_back({tramoya::utf8(nombre), valor, donde});
+}
+- (id)attribute:(NSString*)nombre atIndex:(NSUInteger)donde effectiveRange:(NSRangePointer)hasta {
+  for (auto const& puesto : _puestos) {
+    if (puesto.nombre == tramoya::utf8(nombre) && NSLocationInRange(donde, puesto.donde)) return puesto.valor;
+  }
+  return [super attribute:nombre atIndex:donde effectiveRange:hasta];
+}
+@end
+
+@implementation NSParagraphStyle
+@end
+
+@implementation NSMutableParagraphStyle
 @end
 
 namespace tramoya {
+
+id atributo(NSTextField* rotulo, NSString* nombre, NSUInteger donde) {
+  return [rotulo.attributedStringValue attribute:nombre atIndex:donde effectiveRange:nullptr];
+}
 
 std::string utf8(id cadena) {
   if (cadena == nil) return {};

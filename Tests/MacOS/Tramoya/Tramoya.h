@@ -18,6 +18,8 @@
 - (NSTableRowView*)rowViewAtRow:(NSInteger)fila makeIfNecessary:(BOOL)hacer;
 /// A press on a row, in sight or not.
 - (void)pulsarFila:(NSInteger)fila;
+/// A secondary click there: the table's menu is filled by its delegate and comes up.
+- (void)pulsarDerechoEnFila:(NSInteger)fila;
 - (void)desplazarA:(NSInteger)fila;
 - (NSInteger)primeraALaVista;
 @end
@@ -37,6 +39,7 @@
 
 @interface NSView (Pruebas)
 - (BOOL)isHiddenOrHasHiddenAncestor;
+- (BOOL)accessibilityPerformShowMenu;
 - (NSSize)intrinsicContentSize;
 @end
 
@@ -51,6 +54,9 @@ std::size_t veces(std::string_view linea);
 /// What our sources did that the system answers with an exception or a broken window. A test that leaves one
 /// fails.
 std::vector<std::string>& faltas();
+
+/// The attribute of the label's text at unit `donde`, or nil.
+id atributo(NSTextField* rotulo, NSString* nombre, NSUInteger donde);
 
 std::string utf8(id cadena);
 NSString* texto(std::string_view utf8);
@@ -127,10 +133,10 @@ void pulsar(NSView* vista);
 /// Assistive software's press: no event is behind it.
 BOOL pulsarSinEvento(id vista);
 
-/// The menu that is open on the status item, while `con` runs.
+/// The menu that is open, the status item's or another, while `con` runs.
 void conElMenu(std::function<void(NSMenu*)> con);
 void elegirDelMenu(NSMenu* menu, NSInteger cual);
-/// Every menu that opened on the status item since `reponer`, by its entries' titles.
+/// Every menu that opened since `reponer`, by its entries' titles.
 std::vector<std::vector<std::string>>& menusAbiertos();
 
 NSStatusItem* itemDeEstado();

@@ -13,6 +13,13 @@ TEST(Escape, unaPalabraDeShellVaEntreComillasSimples) {
   EXPECT_EQ(palabraDeShell("ñ\n\xFF"), "'ñ\n\xFF'");
 }
 
+TEST(Escape, enCualquierShellLasBarrasYLasComillasVanFuera) {
+  EXPECT_EQ(palabraDeCualquierShell(""), "''");
+  EXPECT_EQ(palabraDeCualquierShell("a b$c"), "'a b$c'");
+  EXPECT_EQ(palabraDeCualquierShell("it's"), R"('it'\''s')");
+  EXPECT_EQ(palabraDeCualquierShell(R"(a\)"), R"('a'\\)");
+}
+
 TEST(Escape, elLiteralDeAppleScriptEscapaBarrasYComillasYNadaMas) {
   EXPECT_EQ(literalDeAppleScript(""), "\"\"");
   EXPECT_EQ(literalDeAppleScript(R"(a\"b)"), R"("a\\\"b")");

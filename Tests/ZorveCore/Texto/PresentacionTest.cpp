@@ -55,5 +55,13 @@ TEST(Presentacion, loQueSoloComparteElPrefijoQuedaIgual) {
   EXPECT_EQ(abreviar("/x", ""), "/x");
 }
 
+TEST(Presentacion, lasMarcasSiguenALaRutaAbreviada) {
+  using Tramos = std::vector<Tramo>;
+  EXPECT_EQ(enLoAbreviado({{6, 9}, {10, 13}}, "/home/ana/src", "/home/ana"), (Tramos{{0, 1}, {2, 5}}));
+  EXPECT_EQ(enLoAbreviado({{8, 11}}, "/home/ana/src", "/home/ana"), (Tramos{{0, 3}}));
+  EXPECT_EQ(enLoAbreviado({{1, 3}, {6, 8}}, "/home/ana", "/home/ana"), (Tramos{{0, 1}}));
+  EXPECT_EQ(enLoAbreviado({{6, 9}}, "/home/anabel", "/home/ana"), (Tramos{{6, 9}}));
+}
+
 }  // namespace
 }  // namespace zorve

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QObject>
 #include <QQmlEngine>
 #include <QString>
@@ -22,6 +23,8 @@ struct GustosDePantalla {
 
 /// The glass, opaque, a fifth of the way down.
 [[nodiscard]] QColor fondoDelPanel();
+/// The same right above the footer.
+[[nodiscard]] QColor fondoDelPie();
 
 /// The colours of `Estilo` by their names, and those that only this front end has.
 struct ColoresQt {
@@ -41,25 +44,30 @@ struct ColoresQt {
   QColor fondoDeError = aQColor(Estilo::fondoDeError);
   QColor fondoDeAviso = aQColor(Estilo::fondoDeAviso);
   QColor contornoDeError = aQColor(Estilo::error.con(0.14));
-  QColor contornoDeAviso = aQColor(Estilo::acento.con(0.14));
+  QColor contornoDeAviso = aQColor(Color::blanco(0.1));
   QColor fondoDeTecla = aQColor(Estilo::fondoDeTecla);
   QColor fondoDeOpcion = aQColor(Estilo::fondoDeOpcion);
   QColor fondoDeBarraLateral = aQColor(Estilo::fondoDeBarraLateral);
-  /// The glass behind the panel's notices, and what fades into it.
+  /// The glass behind the panel's notices, and above its footer.
   QColor fondo = fondoDelPanel();
-  QColor fondoClaro = QColor{fondo.red(), fondo.green(), fondo.blue(), 0};
+  QColor fondoBajo = fondoDelPie();
   QColor fondoDeAyuda = QColor::fromRgbF(0.12F, 0.16F, 0.19F);
   QColor haloDeEstado = aQColor(Estilo::haloDeEstado);
   QColor aroInactivo = aQColor(Estilo::aroInactivo);
   QColor foco = aQColor(Estilo::acento.con(0.8));
   QColor textoEscogido = aQColor(Estilo::acento.con(0.3));
   QColor visto = QColor::fromRgbF(0.05F, 0.09F, 0.1F);
+  /// Faint texts on a row that is selected or under the pointer.
+  QColor textoEncendido = aQColor(Estilo::texto);
+  QColor filaApagada = aQColor(Color::blanco(0));
   QColor filaAlPasar = aQColor(Color::blanco(0.03));
   QColor filaAlPulsar = aQColor(Color::blanco(0.06));
   QColor opcionAlPasar = aQColor(Color::blanco(0.065));
   QColor opcionAlPulsar = aQColor(Color::blanco(0.09));
   QColor botonAlPasar = aQColor(Color::blanco(0.06));
   QColor botonAlPulsar = aQColor(Color::blanco(0.1));
+  /// How thick the outline of what is selected is, in points.
+  double trazoDeSeleccion = 1;
 };
 
 /// Under high contrast no text is fainter than the plain one, and lines and outlines are seen.
@@ -92,7 +100,12 @@ class EstiloQt final : public QObject, private ColoresQt {
   Q_PROPERTY(QColor fondoDeOpcion MEMBER fondoDeOpcion NOTIFY cambio)
   Q_PROPERTY(QColor fondoDeBarraLateral MEMBER fondoDeBarraLateral NOTIFY cambio)
   Q_PROPERTY(QColor fondo MEMBER fondo NOTIFY cambio)
-  Q_PROPERTY(QColor fondoClaro MEMBER fondoClaro NOTIFY cambio)
+  Q_PROPERTY(QColor fondoBajo MEMBER fondoBajo NOTIFY cambio)
+  Q_PROPERTY(QColor textoEncendido MEMBER textoEncendido NOTIFY cambio)
+  Q_PROPERTY(QColor filaApagada MEMBER filaApagada NOTIFY cambio)
+  Q_PROPERTY(double trazoDeSeleccion MEMBER trazoDeSeleccion NOTIFY cambio)
+  Q_PROPERTY(QFont cifras READ cifras NOTIFY cambio)
+  Q_PROPERTY(int pesoMedio READ pesoMedio NOTIFY cambio)
   Q_PROPERTY(QColor fondoDeAyuda MEMBER fondoDeAyuda NOTIFY cambio)
   Q_PROPERTY(QColor haloDeEstado MEMBER haloDeEstado NOTIFY cambio)
   Q_PROPERTY(QColor aroInactivo MEMBER aroInactivo NOTIFY cambio)
@@ -139,6 +152,10 @@ class EstiloQt final : public QObject, private ColoresQt {
   /// How long a caret is lit, in milliseconds; 0 for always.
   [[nodiscard]] int parpadeo() const;
   [[nodiscard]] double escala() const { return gustos_.escala; }
+  /// The type of a row's right-hand side: figures of one width, where the toolkit can ask for them.
+  [[nodiscard]] QFont cifras() const;
+  /// The weight of titles, a QFont::Weight: the next heavier one where the family has no medium.
+  [[nodiscard]] int pesoMedio() const { return pesoMedio_; }
   /// The fixed-width family.
   [[nodiscard]] QString fija() const;
 
@@ -149,6 +166,7 @@ class EstiloQt final : public QObject, private ColoresQt {
   GustosDePantalla gustos_;
   /// Font points in one pixel of a screen at scale 1.
   double puntos_ = 1;
+  int pesoMedio_;
 };
 
 }  // namespace zorve

@@ -4,18 +4,16 @@
 #include <QPainter>
 #include <QPainterPath>
 
-#include "ZorveApp/Estilo.h"
 #include "ZorveApp/Qt/Dibujo/FondoDeVidrio.h"
-#include "ZorveApp/Qt/Puentes/Conversiones.h"
 
 namespace zorve {
 
 namespace {
 
-QLinearGradient degradado(Degradado const& de, double alto) {
+QLinearGradient degradado(QColor const& arriba, QColor const& abajo, double alto) {
   QLinearGradient todo{0, 0, 0, alto};
-  todo.setColorAt(0, aQColor(de.arriba));
-  todo.setColorAt(1, aQColor(de.abajo));
+  todo.setColorAt(0, arriba);
+  todo.setColorAt(1, abajo);
   return todo;
 }
 
@@ -33,7 +31,7 @@ void Vidrio::paint(QPainter* pintor) {
   QBrush fondo{fondoDeVidrio(qRound(height() * escala), densidad_)};
   fondo.setTransform(QTransform::fromScale(1 / escala, 1 / escala));
   pintor->fillPath(forma, fondo);
-  pintor->setPen(QPen{QBrush{degradado(Estilo::bordeDeLuz, height())}, 1});
+  pintor->setPen(QPen{QBrush{degradado(contornoAlto_, contornoBajo_, height())}, 1});
   pintor->drawRoundedRect(boundingRect().adjusted(0.5, 0.5, -0.5, -0.5), radio_ - 0.5, radio_ - 0.5);
 }
 

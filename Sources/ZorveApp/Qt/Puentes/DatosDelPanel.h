@@ -2,10 +2,12 @@
 
 #include <QAbstractItemModel>
 #include <QObject>
+#include <QPointF>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QString>
 #include <QVariantList>
+#include <functional>
 
 #include "ZorveApp/Qt/Puentes/Prestamo.h"
 
@@ -21,6 +23,7 @@ class DatosDelPanel final : public QObject {
   Q_PROPERTY(QString consulta MEMBER consulta NOTIFY cambio)
   Q_PROPERTY(int seleccion MEMBER seleccion NOTIFY cambio)
   Q_PROPERTY(QString marcador MEMBER marcador NOTIFY cambio)
+  Q_PROPERTY(bool vacio MEMBER vacio NOTIFY cambio)
   Q_PROPERTY(QString terminal MEMBER terminal NOTIFY cambio)
   Q_PROPERTY(QVariantList banda MEMBER banda NOTIFY bandaCambio)
   Q_PROPERTY(QVariantList leyenda MEMBER leyenda NOTIFY textosCambio)
@@ -40,13 +43,16 @@ class DatosDelPanel final : public QObject {
     return prestado<DatosDelPanel>(*motor);
   }
 
-  /// A row's roles: titulo, ayuda, ruta, palabra, tiempo, conteo, and estado, an `Estado`.
+  /// A row's roles: titulo, ayuda, ruta, palabra, tiempo, conteo, perdida, marcasDeTitulo and marcasDeRuta,
+  /// and estado, an `Estado`.
   QAbstractItemModel* filas = nullptr;
   QString consulta;
   /// The selected row's place, -1 for none.
   int seleccion = -1;
   /// What stands in place of the rows; empty when there are rows.
   QString marcador;
+  /// Whether there is no session at all.
+  bool vacio = false;
   QString terminal;
   /// One {texto, esError} a line.
   QVariantList banda;
@@ -59,17 +65,27 @@ class DatosDelPanel final : public QObject {
   QString nombreDeLimpiar;
   QString nombreDeLaLista;
 
+  /// What a row's last prompt has of the search, for help texts; empty for most rows.
+  std::function<QString(int)> trozo = [](int) { return QString{}; };
+  Q_INVOKABLE [[nodiscard]] QString trozoDe(int posicion) const { return trozo(posicion); }
+
  Q_SIGNALS:
   void cambio();
   void bandaCambio();
   void textosCambio();
   /// The panel has come up.
   void aparecio();
+  /// What was searched has found nothing: it is there to be typed over.
+  void otraBusqueda();
+  /// The keyboard asks for the selected row's menu.
+  void menuLlamado();
 
   /// Of the views.
   void consultaEscrita(QString const& texto);
   void filaPulsada(int posicion);
   void ajustesPedidos();
+  /// The menu of a row, to come up at a place in the window.
+  void menuPedido(int posicion, QPointF const& donde);
   /// A screen reader is to read `que`, which may be null; the keyboard stays where it is.
   void lecturaPedida(QQuickItem* que);
 };

@@ -22,6 +22,17 @@ DatosDelPanel::Estado estadoDe(LiveState estado) {
   }
 }
 
+/// Marks of a label made of `texto` with `antes` more units before it.
+QVariantList enUnidades(std::vector<Tramo> const& tramos, std::string_view texto, qsizetype antes) {
+  QVariantList unidades;
+  for (auto const& [desde, hasta] : tramos) {
+    auto const principio = aQString(texto.substr(0, desde)).size();
+    auto const largo = aQString(texto.substr(desde, hasta - desde)).size();
+    unidades << antes + principio << antes + principio + largo;
+  }
+  return unidades;
+}
+
 QVariant valor(Fila const& fila, int papel) {
   switch (papel) {
     case FilasQt::titulo:
@@ -36,6 +47,12 @@ QVariant valor(Fila const& fila, int papel) {
       return enUnaLinea(fila.tiempo);
     case FilasQt::conteo:
       return enUnaLinea(fila.conteo.value_or(""));
+    case FilasQt::marcasDeTitulo:
+      return enUnidades(fila.marcasDeTitulo, fila.titulo, 0);
+    case FilasQt::marcasDeRuta:
+      return enUnidades(fila.marcasDeRuta, fila.ruta, 1);
+    case FilasQt::perdida:
+      return enUnaLinea(fila.directorioPerdido.value_or(""));
     case FilasQt::estado:
       return QVariant::fromValue(estadoDe(fila.estado));
     default:
@@ -50,8 +67,16 @@ FilasQt::FilasQt(PanelView const& panel, QObject* padre) : QAbstractListModel{pa
 int FilasQt::rowCount(QModelIndex const& padre) const { return padre.isValid() ? 0 : cantidad_; }
 
 QHash<int, QByteArray> FilasQt::roleNames() const {
-  return {{titulo, "titulo"}, {ayuda, "ayuda"},   {ruta, "ruta"},    {palabra, "palabra"},
-          {tiempo, "tiempo"}, {conteo, "conteo"}, {estado, "estado"}};
+  return {{titulo, "titulo"},
+          {ayuda, "ayuda"},
+          {ruta, "ruta"},
+          {palabra, "palabra"},
+          {tiempo, "tiempo"},
+          {conteo, "conteo"},
+          {estado, "estado"},
+          {marcasDeTitulo, "marcasDeTitulo"},
+          {marcasDeRuta, "marcasDeRuta"},
+          {perdida, "perdida"}};
 }
 
 QVariant FilasQt::data(QModelIndex const& indice, int papel) const {

@@ -14,7 +14,20 @@ class FilasQt final : public QAbstractListModel {
   Q_OBJECT
 
  public:
-  enum Papel : int { titulo = Qt::UserRole + 1, ayuda, ruta, palabra, tiempo, conteo, estado };
+  /// `marcasDeTitulo` and `marcasDeRuta` are flat lists, two numbers a mark: where it begins and where it
+  /// ends in `titulo` and `ruta`, in UTF-16 units. `perdida` is the help of a directory that is gone.
+  enum Papel : int {
+    titulo = Qt::UserRole + 1,
+    ayuda,
+    ruta,
+    palabra,
+    tiempo,
+    conteo,
+    estado,
+    marcasDeTitulo,
+    marcasDeRuta,
+    perdida
+  };
 
   /// `panel` outlives the rows.
   explicit FilasQt(PanelView const& panel, QObject* padre = nullptr);

@@ -47,6 +47,10 @@ PuenteDelPanel::PuenteDelPanel(PanelView& panel, PreferenciaDeIdioma const& idio
 }
 
 void PuenteDelPanel::atenderVistas() {
+  datos_.trozo = [this](int posicion) {
+    bool const esta = posicion >= 0 && static_cast<std::size_t>(posicion) < panel_.cantidadDeFilas();
+    return esta ? enUnaLinea(panel_.trozoDelPrompt(static_cast<std::size_t>(posicion))) : QString{};
+  };
   connect(&datos_, &DatosDelPanel::consultaEscrita, this, [this](QString const& texto) {
     panel_.escribirConsulta(texto.toStdString());
     actualizar();
@@ -81,6 +85,7 @@ void PuenteDelPanel::actualizar() {
   datos_.consulta = aQString(panel_.consulta());
   datos_.seleccion = fila ? static_cast<int>(*fila) : -1;
   datos_.marcador = enUnaLinea(panel_.marcador().value_or(""));
+  datos_.vacio = panel_.vacio();
   datos_.terminal = enUnaLinea(panel_.terminal());
   Q_EMIT datos_.cambio();
 }

@@ -1,16 +1,19 @@
 #include "ZorveApp/Qt/Ventanas/VentanaDelPanel.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainterPath>
 #include <QQuickItem>
+#include <QWidget>
 #include <utility>
 
 #include "ZorveApp/Estilo.h"
 #include "ZorveApp/Qt/Puentes/TeclasQt.h"
 #include "ZorveApp/Qt/Ventanas/TamanoFijo.h"
+#include "ZorveApp/Qt/Ventanas/X11.h"
 
 namespace zorve {
 
@@ -36,6 +39,12 @@ QRegion redonda(QSize tamano, double radio) {
   return QRegion{forma.toFillPolygon().toPolygon()};
 }
 
+bool llamaAlMenu(QKeyEvent const& evento) {
+  auto const modificadores = evento.modifiers() & ~Qt::KeypadModifier;
+  return (evento.key() == Qt::Key_Menu && modificadores == Qt::NoModifier) ||
+         (evento.key() == Qt::Key_F10 && modificadores == Qt::ShiftModifier);
+}
+
 QScreen& pantallaDe(QPoint punto) {
   auto* const pantalla = QGuiApplication::screenAt(punto);
   return pantalla ? *pantalla : *QGuiApplication::primaryScreen();
@@ -52,6 +61,8 @@ VentanaDelPanel::VentanaDelPanel(SistemaDeVentanas& sistema, std::function<bool(
   setPersistentGraphics(true);
   setPersistentSceneGraph(true);
   sistema_.preparar(*this);
+  ida_.setSingleShot(true);
+  connect(&ida_, &QTimer::timeout, this, &QWindow::hide);
   connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &VentanaDelPanel::alCambiarElFoco);
 }
 
@@ -100,12 +111,14 @@ void VentanaDelPanel::colocarEn(std::optional<Ancla> const& ancla) {
 void VentanaDelPanel::mostrarEn(std::optional<Ancla> const& ancla, bool conTeclado) {
   preparar();
   vestir();
+  ida_.stop();
   if (!isVisible()) colocarEn(ancla);
   desenfocar();
   zonaDelIcono_ = ancla ? ancla->icono : QRect{};
   if (ancla && ancla->soloPunto) {
     zonaDelIcono_.adjust(-alcanceDelIcono, -alcanceDelIcono, alcanceDelIcono, alcanceDelIcono);
   }
+  if (rootObject()) rootObject()->setProperty("presente", true);
   show();
   raise();
   if (conTeclado) sistema_.tomarElTeclado(*this);
@@ -113,15 +126,27 @@ void VentanaDelPanel::mostrarEn(std::optional<Ancla> const& ancla, bool conTecla
 }
 
 void VentanaDelPanel::esconder() {
-  if (!isVisible()) return;
+  if (!mostrada()) return;
   sistema_.devolverElTeclado(*this);
   ocultar();
 }
 
 void VentanaDelPanel::ocultar() {
   sistema_.vigilarPulsaciones(*this, {});
-  hide();
+  irse();
   Q_EMIT escondida();
+}
+
+/// Elsewhere than on X11 the keyboard goes with the window, and so at once.
+void VentanaDelPanel::irse() {
+  auto* const raiz = rootObject();
+  if (raiz) raiz->setProperty("presente", false);
+  auto const espera = raiz && X11::conexion() ? raiz->property("desvanecimiento").toInt() : 0;
+  if (espera > 0) {
+    ida_.start(espera);
+  } else {
+    hide();
+  }
 }
 
 bool VentanaDelPanel::tomarElCierre() {
@@ -130,7 +155,9 @@ bool VentanaDelPanel::tomarElCierre() {
 }
 
 void VentanaDelPanel::alPulsarFuera(QPoint donde) {
-  if (zonaDelIcono_.contains(donde) || !isVisible()) return;
+  // A menu over the panel reaches beyond it.
+  bool const hayMenu = QApplication::activePopupWidget() != nullptr;
+  if (zonaDelIcono_.contains(donde) || !mostrada() || hayMenu) return;
   cerradaPorFuera_ = milisegundos();
   sistema_.soltarElTeclado(*this);
   ocultar();
@@ -139,17 +166,28 @@ void VentanaDelPanel::alPulsarFuera(QPoint donde) {
 void VentanaDelPanel::alCambiarElFoco() {
   auto const* const foco = QGuiApplication::focusWindow();
   bool const esUnMenu = foco && foco->type() == Qt::Popup;
-  if (!isVisible() || foco == this || esUnMenu || (!foco && sistema_.tieneElTeclado(*this))) return;
+  if (!mostrada() || foco == this || esUnMenu || (!foco && sistema_.tieneElTeclado(*this))) return;
   cerradaPorFuera_ = milisegundos();
   esconder();
 }
 
 void VentanaDelPanel::mousePressEvent(QMouseEvent* evento) {
+  if (!mostrada()) return;
   if (!sistema_.tieneElTeclado(*this)) sistema_.tomarElTeclado(*this);
   QQuickView::mousePressEvent(evento);
 }
 
 void VentanaDelPanel::keyPressEvent(QKeyEvent* evento) {
+  // Where the window system leaves the keyboard with the panel, a menu over it gets its keys from here.
+  if (auto* const menu = QApplication::activePopupWidget()) {
+    QApplication::sendEvent(menu, evento);
+    return;
+  }
+  if (llamaAlMenu(*evento)) {
+    evento->accept();
+    Q_EMIT menuLlamado();
+    return;
+  }
   if (alPulsar_(aPulsacion(*evento))) {
     evento->accept();
     return;

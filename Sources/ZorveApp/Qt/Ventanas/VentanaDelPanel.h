@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QQuickView>
+#include <QTimer>
 #include <functional>
 #include <memory>
 
@@ -29,6 +30,8 @@ class VentanaDelPanel final : public QQuickView {
   /// keyboard: at once, or when it is pressed.
   void mostrarEn(std::optional<Ancla> const& ancla, bool conTeclado = true);
   void esconder();
+  /// Whether it is shown. One that is fading away is not.
+  [[nodiscard]] bool mostrada() const { return isVisible() && !ida_.isActive(); }
   /// Whether a press outside has closed it a moment ago: that press was meant to close it, not to open it.
   /// A press is one click: asked again, no.
   [[nodiscard]] bool tomarElCierre();
@@ -39,6 +42,8 @@ class VentanaDelPanel final : public QQuickView {
 
  Q_SIGNALS:
   void escondida();
+  /// The key for a menu was pressed, or Shift+F10.
+  void menuLlamado();
 
  protected:
   void mousePressEvent(QMouseEvent* evento) override;
@@ -48,6 +53,7 @@ class VentanaDelPanel final : public QQuickView {
 
  private:
   void ocultar();
+  void irse();
   void vestir();
   void desenfocar();
   void colocarEn(std::optional<Ancla> const& ancla);
@@ -61,6 +67,8 @@ class VentanaDelPanel final : public QQuickView {
   QRect zonaDelIcono_;
   qint64 cerradaPorFuera_ = -1;
   bool exigeOpaco_ = false;
+  /// While what was closed fades away.
+  QTimer ida_;
 };
 
 }  // namespace zorve

@@ -20,7 +20,7 @@ Item {
         LetreroDicho {
             anchors.horizontalCenter: parent.horizontalCenter
             text: DatosDeAjustes.nombreYVersion
-            font { pointSize: Estilo.letraDeTitulo; weight: Font.Medium }
+            font { pointSize: Estilo.letraDeTitulo; weight: Estilo.pesoMedio }
             color: Estilo.textoAlto
         }
         LetreroDicho {

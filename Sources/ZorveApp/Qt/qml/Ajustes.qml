@@ -11,7 +11,13 @@ Escalado {
     width: Medidas.anchoDeAjustes * Estilo.escala
     height: Medidas.altoDeAjustes * Estilo.escala
 
-    Vidrio { anchors.fill: parent; densidad: 1; visible: !raiz.enMarco }
+    Vidrio {
+        anchors.fill: parent
+        densidad: 1
+        visible: !raiz.enMarco
+        contornoAlto: Estilo.bordeSuperior
+        contornoBajo: Estilo.borde
+    }
 
     BarraLateral {
         id: barra

@@ -35,6 +35,8 @@ FocusScope {
         anchors { fill: parent; margins: marco.sombra }
         densidad: 1
         radio: marco.radio
+        contornoAlto: Estilo.bordeSuperior
+        contornoBajo: Estilo.borde
     }
 
     Item {
@@ -45,7 +47,7 @@ FocusScope {
         Letrero {
             anchors.centerIn: parent
             text: marco.Window.window ? marco.Window.window.title : ""
-            font { pointSize: Estilo.letraDeOpcion * marco.escala; weight: Font.Medium }
+            font { pointSize: Estilo.letraDeOpcion * marco.escala; weight: Estilo.pesoMedio }
             color: Estilo.texto
             Accessible.role: Accessible.TitleBar
             Accessible.name: text

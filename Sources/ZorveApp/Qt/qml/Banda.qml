@@ -6,7 +6,7 @@ import Zorve.Tipos
 Item {
     id: banda
 
-    // Whether what follows is cut off at the band's foot.
+    // Whether what follows, or the band itself, is cut off at the band's foot.
     property bool conLinea: false
 
     // A page on (1) or back (-1). Gives whether there was anything to scroll.
@@ -20,8 +20,10 @@ Item {
         return true
     }
 
-    visible: lista.count > 0
-    height: lista.count === 0 ? 0 : Math.min(Medidas.altoDeBanda, Math.max(Medidas.altoDeUnAviso, lista.contentHeight))
+    // With no session at all, a line or two stand under the mark instead.
+    readonly property bool bajoLaMarca: DatosDelPanel.vacio && lista.count <= 2
+    visible: lista.count > 0 && !bajoLaMarca
+    height: !visible ? 0 : Math.min(Medidas.altoDeBanda, Math.max(Medidas.altoDeUnAviso, lista.contentHeight))
                                       + Medidas.margenSobreBanda + Medidas.margenBajoBanda
 
     ListView {
@@ -63,6 +65,7 @@ Item {
             width: ListView.view.width
             texto: modelData.texto
             esError: modelData.esError
+            NumberAnimation on opacity { running: Estilo.transicion > 0; from: 0; to: 1; duration: Estilo.transicion }
         }
     }
 
@@ -82,6 +85,6 @@ Item {
 
     Raya {
         anchors.bottom: parent.bottom
-        visible: banda.conLinea
+        visible: banda.conLinea || lista.interactive
     }
 }

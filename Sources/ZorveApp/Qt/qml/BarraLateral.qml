@@ -52,7 +52,7 @@ Item {
                 radius: Medidas.radioDeSeccion
                 color: datos.elegida ? Estilo.filaSeleccionada
                                      : zona.pressed ? Estilo.filaAlPulsar : zona.containsMouse ? Estilo.filaAlPasar : "transparent"
-                border { width: datos.elegida ? Medidas.borde : 0; color: Estilo.contornoDeFila }
+                border { width: datos.elegida ? Estilo.trazoDeSeleccion : 0; color: Estilo.contornoDeFila }
                 activeFocusOnTab: true
                 Keys.onSpacePressed: DatosDeAjustes.seccionPulsada(index)
                 Keys.onReturnPressed: DatosDeAjustes.seccionPulsada(index)

@@ -38,6 +38,7 @@ FocusScope {
             target: DatosDelPanel
             // What was searched last is there to be kept, or to be typed over.
             function onAparecio() { campo.selectAll() }
+            function onOtraBusqueda() { campo.selectAll() }
             function onCambio() { if (campo.text !== DatosDelPanel.consulta) campo.text = DatosDelPanel.consulta }
         }
     }
@@ -49,7 +50,7 @@ FocusScope {
         width: Medidas.ladoDeEquis; height: width
         forma: Simbolo.Equis
         visible: campo.text.length > 0
-        color: zona.containsMouse ? Estilo.textoAlto : Estilo.textoDebil
+        color: zona.containsMouse ? Estilo.textoAlto : Estilo.textoTenue
         Accessible.role: Accessible.Button
         Accessible.name: DatosDelPanel.nombreDeLimpiar
         Accessible.onPressAction: DatosDelPanel.consultaEscrita("")

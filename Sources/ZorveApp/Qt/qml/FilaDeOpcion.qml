@@ -15,7 +15,7 @@ Rectangle {
     radius: Medidas.radioDeOpcion
     color: marcada ? Estilo.filaSeleccionada
                    : zona.pressed ? Estilo.opcionAlPulsar : zona.containsMouse ? Estilo.opcionAlPasar : Estilo.fondoDeOpcion
-    border { width: Medidas.borde; color: marcada ? Estilo.contornoDeFila : Estilo.lineaFila }
+    border { width: marcada ? Estilo.trazoDeSeleccion : Medidas.borde; color: marcada ? Estilo.contornoDeFila : Estilo.lineaFila }
     activeFocusOnTab: true
     Keys.onSpacePressed: elegida()
     Keys.onReturnPressed: elegida()
@@ -71,7 +71,7 @@ Rectangle {
             text: fila.titulo
             elide: Text.ElideRight
             maximumLineCount: 1
-            font { pointSize: Estilo.letraDeOpcion; weight: Font.Medium }
+            font { pointSize: Estilo.letraDeOpcion; weight: Estilo.pesoMedio }
             color: Estilo.textoAlto
             Accessible.ignored: true
         }
@@ -82,7 +82,7 @@ Rectangle {
             elide: Text.ElideRight
             maximumLineCount: 1
             font.pointSize: Estilo.letraDeNota
-            color: Estilo.textoTenue
+            color: fila.marcada || zona.containsMouse ? Estilo.textoEncendido : Estilo.textoTenue
             Accessible.ignored: true
         }
     }

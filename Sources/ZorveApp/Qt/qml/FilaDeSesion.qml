@@ -13,25 +13,49 @@ Item {
     required property string tiempo
     required property string conteo
     required property int estado
+    required property string perdida
+    required property var marcasDeTitulo
+    required property var marcasDeRuta
     property bool seleccionada: false
     property bool conLinea: true
+    // Whether its card is lit, over which faint texts are drawn stronger.
+    readonly property bool encendida: seleccionada || zona.containsMouse
     signal pulsada
     signal senalada(string texto)
+    // The menu of this row, at a place in it.
+    signal menuPedido(point donde)
+
+    // What the row has no room for, and what there is to say about it.
+    function ayudaEntera() {
+        let dicho = letreroDeTitulo.truncated ? titulo : ""
+        dicho = conOtroRenglon(dicho, letreroDeRuta.truncated ? ruta : "")
+        dicho = conOtroRenglon(dicho, perdida)
+        dicho = conOtroRenglon(dicho, DatosDelPanel.trozoDe(index))
+        return conOtroRenglon(dicho, ayuda)
+    }
+    function conOtroRenglon(dicho: string, otro: string): string {
+        return dicho.length === 0 ? otro : otro.length === 0 ? dicho : dicho + "\n" + otro
+    }
 
     height: Medidas.altoDeFila
     Accessible.role: Accessible.ListItem
     Accessible.name: fila.titulo
-    Accessible.description: [palabra, ruta.replace(/\u200e/g, ""), tiempo, conteo, ayuda].filter(dicho => dicho.length > 0).join(", ")
+    Accessible.description: [palabra, ruta.replace(/\u200e/g, ""), tiempo, conteo, perdida, ayuda].filter(dicho => dicho.length > 0).join(", ")
     Accessible.selectable: true
     Accessible.selected: seleccionada
     Accessible.onPressAction: pulsada()
 
     Rectangle {
         anchors { fill: parent; leftMargin: Medidas.sangriaDeSeleccion; rightMargin: Medidas.sangriaDeSeleccion }
-        visible: fila.seleccionada || zona.containsMouse
+        objectName: "tarjeta"
+        visible: color.a > 0 || border.color.a > 0
         radius: Medidas.radioDeSeleccion
-        color: fila.seleccionada ? Estilo.filaSeleccionada : zona.pressed ? Estilo.filaAlPulsar : Estilo.filaAlPasar
-        border { width: fila.seleccionada ? Medidas.borde : 0; color: zona.pressed ? Estilo.acento : Estilo.contornoDeFila }
+        color: fila.seleccionada ? Estilo.filaSeleccionada
+                                 : zona.pressed ? Estilo.filaAlPulsar : zona.containsMouse ? Estilo.filaAlPasar : Estilo.filaApagada
+        border.width: Estilo.trazoDeSeleccion
+        border.color: !fila.seleccionada ? Estilo.filaApagada : zona.pressed ? Estilo.acento : Estilo.contornoDeFila
+        Fundirse on color {}
+        Fundirse on border.color {}
     }
 
     MarcaDeEstado {
@@ -48,7 +72,7 @@ Item {
         height: Medidas.altoDeTitulo
         clip: true
 
-        Letrero {
+        LetreroMarcado {
             id: letreroDeTitulo
             width: parent.width
             y: letreroDeTiempo.y + letreroDeTiempo.baselineOffset - lineaDeTitulo.y - baselineOffset
@@ -56,12 +80,13 @@ Item {
             maximumLineCount: 1
             elide: Text.ElideRight
             horizontalAlignment: Text.AlignLeft
-            font { pointSize: Estilo.letraDeTitulo; weight: Font.Medium }
-            color: Estilo.textoAlto
+            font { pointSize: Estilo.letraDeTitulo; weight: Estilo.pesoMedio }
+            tinta: Estilo.textoAlto
+            marcas: fila.marcasDeTitulo
         }
     }
 
-    Letrero {
+    LetreroMarcado {
         id: letreroDeRuta
         anchors { left: lineaDeTitulo.left; baseline: letreroDeConteo.baseline }
         width: Math.min(implicitWidth, letreroDeConteo.x - Medidas.huecoDeFila - x - letreroDePalabra.width)
@@ -69,8 +94,9 @@ Item {
         maximumLineCount: 1
         elide: Text.ElideMiddle
         horizontalAlignment: Text.AlignLeft
-        font { family: Estilo.fija; pointSize: Estilo.letraDeRuta }
-        color: Estilo.textoTenue
+        font { family: Estilo.fija; pointSize: Estilo.letraDeRuta; strikeout: fila.perdida.length > 0 }
+        tinta: fila.encendida ? Estilo.textoEncendido : Estilo.textoTenue
+        marcas: fila.marcasDeRuta
     }
 
     Letrero {
@@ -78,7 +104,7 @@ Item {
         anchors.baseline: letreroDeRuta.baseline
         x: letreroDeRuta.x + Math.min(letreroDeRuta.width, letreroDeRuta.contentWidth)
         text: fila.palabra.length > 0 ? " · " + fila.palabra : ""
-        font: letreroDeRuta.font
+        font { family: Estilo.fija; pointSize: Estilo.letraDeRuta }
         color: Estilo.ember
     }
 
@@ -87,8 +113,8 @@ Item {
         anchors { right: parent.right; rightMargin: Medidas.margenDerecho }
         y: Medidas.yDeTiempo
         text: fila.tiempo
-        font.pointSize: Estilo.letraDerecha
-        color: Estilo.textoTenue
+        font: Estilo.cifras
+        color: fila.encendida ? Estilo.textoEncendido : Estilo.textoTenue
     }
 
     Letrero {
@@ -96,8 +122,8 @@ Item {
         anchors { right: letreroDeTiempo.right }
         y: Medidas.yDeConteo
         text: fila.conteo
-        font.pointSize: Estilo.letraDerecha
-        color: Estilo.textoDebil
+        font: Estilo.cifras
+        color: fila.encendida ? Estilo.textoEncendido : Estilo.textoTenue
     }
 
     Rectangle {
@@ -111,8 +137,10 @@ Item {
         id: zona
         anchors.fill: parent
         hoverEnabled: true
-        onContainsMouseChanged: fila.senalada(containsMouse ? fila.ayuda : "")
-        onClicked: fila.pulsada()
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onContainsMouseChanged: fila.senalada(containsMouse ? fila.ayudaEntera() : "")
+        onPressed: raton => { if (raton.button === Qt.RightButton) fila.menuPedido(Qt.point(raton.x, raton.y)) }
+        onClicked: raton => { if (raton.button === Qt.LeftButton) fila.pulsada() }
         // Heard, the second click of a double one is none of its own.
         onDoubleClicked: {}
     }

@@ -7,10 +7,13 @@ Rectangle {
 
     // Whether what is cut goes on above.
     property bool desdeArriba: false
+    // The glass there.
+    property color tono: Estilo.fondo
+    readonly property color claro: Qt.rgba(tono.r, tono.g, tono.b, 0)
 
     height: Medidas.fundido
     gradient: Gradient {
-        GradientStop { position: fundido.desdeArriba ? 0 : 1; color: Estilo.fondo }
-        GradientStop { position: fundido.desdeArriba ? 1 : 0; color: Estilo.fondoClaro }
+        GradientStop { position: fundido.desdeArriba ? 0 : 1; color: fundido.tono }
+        GradientStop { position: fundido.desdeArriba ? 1 : 0; color: fundido.claro }
     }
 }

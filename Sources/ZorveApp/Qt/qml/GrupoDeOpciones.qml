@@ -28,7 +28,7 @@ Column {
         text: grupo.titulo
         bottomPadding: Medidas.bajoRotulo
         font { pointSize: Estilo.letraDeRotulo; letterSpacing: Medidas.espacioDeRotulo; capitalization: Font.AllUppercase }
-        color: Estilo.textoDebil
+        color: Estilo.textoTenue
         Accessible.ignored: true
     }
 

@@ -41,8 +41,16 @@ Item {
         onCountChanged: colocacion.restart()
         onHeightChanged: ponerALaVista()
 
+        // Whole, clear of what fades at the foot, and with the list's own margin before the first and after the last.
         function ponerALaVista() {
-            if (seleccion >= 0 && seleccion < count) positionViewAtIndex(seleccion, ListView.Contain)
+            if (seleccion < 0 || seleccion >= count) return
+            positionViewAtIndex(seleccion, ListView.Contain)
+            const primera = originY - topMargin
+            const ultima = Math.max(primera, originY + contentHeight + bottomMargin - height)
+            const arriba = originY + seleccion * Medidas.altoDeFila - topMargin
+            const abajo = arriba + topMargin + Medidas.altoDeFila + (seleccion + 1 < count ? Medidas.fundidoDeLista : bottomMargin) - height
+            if (arriba < contentY) contentY = Math.max(primera, arriba)
+            else if (abajo > contentY) contentY = Math.min(ultima, abajo)
         }
 
         // Going from row to row has a screen reader read each; typing has it back in the field.
@@ -59,6 +67,15 @@ Item {
             else if (otraFila) DatosDelPanel.lecturaPedida(itemAtIndex(seleccion))
         }
 
+        Connections {
+            target: DatosDelPanel
+            function onMenuLlamado() {
+                lista.ponerALaVista()
+                const elegida = lista.itemAtIndex(lista.seleccion)
+                if (elegida) DatosDelPanel.menuPedido(lista.seleccion, elegida.mapToItem(null, Medidas.xDeTitulo, elegida.height / 2))
+            }
+        }
+
         Timer { id: lectura; interval: 0; onTriggered: lista.leer() }
         Timer { id: colocacion; interval: 0; onTriggered: lista.ponerALaVista() }
 
@@ -68,8 +85,17 @@ Item {
             seleccionada: index === DatosDelPanel.seleccion
             conLinea: index !== DatosDelPanel.seleccion && index + 1 !== DatosDelPanel.seleccion && index + 1 < ListView.view.count
             onPulsada: DatosDelPanel.filaPulsada(index)
+            onMenuPedido: donde => DatosDelPanel.menuPedido(index, mapToItem(null, donde))
             onSenalada: texto => cuerpo.ayuda(fila, texto, y - ListView.view.contentY + height)
         }
+    }
+
+    Fundido {
+        objectName: "fundidoDeLaLista"
+        anchors { left: lista.left; right: lista.right; bottom: lista.bottom; leftMargin: Medidas.borde; rightMargin: Medidas.borde }
+        height: Medidas.fundidoDeLista
+        tono: Estilo.fondoBajo
+        visible: lista.contentHeight > lista.height && !lista.atYEnd
     }
 
     Desplazamiento { lista: lista }
@@ -91,6 +117,21 @@ Item {
             text: DatosDelPanel.marcador
             font.pointSize: Estilo.letraDeTitulo
             color: Estilo.textoTenue
+        }
+        Repeater {
+            model: DatosDelPanel.vacio && DatosDelPanel.banda.length <= 2 ? DatosDelPanel.banda : []
+            delegate: Letrero {
+                required property var modelData
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: Math.min(implicitWidth, Medidas.ancho - 2 * Medidas.xDeTitulo)
+                text: modelData.texto
+                wrapMode: Text.Wrap
+                horizontalAlignment: Text.AlignHCenter
+                font.pointSize: Estilo.letraDeBanda
+                color: Estilo.texto
+                Accessible.role: Accessible.AlertMessage
+                Accessible.name: text
+            }
         }
     }
 }

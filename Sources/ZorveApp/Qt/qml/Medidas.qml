@@ -10,7 +10,7 @@ MedidasComunes {
     readonly property double trazoDeLupa: 1.6
     readonly property double ladoDeEquis: 16
     readonly property double alcanceDeEquis: 8
-    readonly property double margenDeEquis: 18
+    readonly property double margenDeEquis: 16
     readonly property double huecoDeBusqueda: 8
     readonly property double anchoDelCursor: 2
 
@@ -21,12 +21,13 @@ MedidasComunes {
     readonly property double huecoEntreAvisos: 6
     readonly property double fundido: 18
     readonly property double margenDeAviso: 7
-    readonly property double xDePuntoDeAviso: 11
+    readonly property double xDePuntoDeAviso: 13
     readonly property double ladoDePuntoDeAviso: 6
-    readonly property double xDeAviso: 27
+    readonly property double xDeAviso: 36
     readonly property double margenDerechoDeAviso: 12
 
-    readonly property double margenDeLista: 4
+    readonly property double margenDeLista: 6
+    readonly property double fundidoDeLista: 28
     readonly property double ladoDeEstado: 14
     readonly property double ladoDePunto: 8
     readonly property double trazoVivo: 2
@@ -48,18 +49,18 @@ MedidasComunes {
     readonly property double subidaDelMarcador: 12
     readonly property double huecoDelMarcador: 16
 
-    readonly property double margenDelPie: 10
+    readonly property double margenDelPie: 14
     readonly property double huecoDeLeyenda: 10
     readonly property double huecoDeTecla: 5
     readonly property double huecoDeTerminal: 8
     readonly property double huecoDeBoton: 4
     readonly property double altoDeTecla: 18
     readonly property double margenDeTecla: 4
-    readonly property double ladoDeFlechas: 13
+    readonly property double ladoDeFlechas: 12
     readonly property double ladoDeRetorno: 12
     readonly property double trazoDeTecla: 1.4
-    readonly property double margenDeBoton: 10
-    readonly property double ladoDeBoton: 26
+    readonly property double margenDeBoton: 15
+    readonly property double ladoDeBoton: 25
     readonly property double radioDeBoton: 6
     readonly property double ladoDeEngranaje: 15
     readonly property double trazoDeEngranaje: 1.2

@@ -19,12 +19,22 @@ Escalado {
     height: Medidas.alto * Estilo.escala
     // As good as opaque, and nothing in it counts as opaque: below what does, the renderer clears the window and paints
     // nothing, also at the edges where it covers but a part of a pixel.
-    opacity: 0.999
+    opacity: presente ? 0.999 : 0
+    // Whether it is there or has gone; it comes and goes shortly where windows are translucent.
+    property bool presente: true
+    // How long that takes, in milliseconds.
+    readonly property int desvanecimiento: opaco ? 0 : Estilo.transicion
+    Behavior on opacity {
+        enabled: raiz.desvanecimiento > 0
+        NumberAnimation { duration: raiz.desvanecimiento; easing.type: Easing.OutQuad }
+    }
 
     Vidrio {
         anchors.fill: parent
         densidad: raiz.opaco ? 1 : raiz.densidad
         radio: raiz.opaco ? 0 : Medidas.radioDelPanel
+        contornoAlto: Estilo.bordeSuperior
+        contornoBajo: Estilo.borde
     }
 
     Busqueda {
