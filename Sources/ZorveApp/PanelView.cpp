@@ -84,6 +84,8 @@ Fila PanelView::fila(std::size_t posicion) const {
 
 std::optional<std::size_t> PanelView::filaSeleccionada() const { return modelo_.posicionSeleccionada(); }
 
+Session const* PanelView::sesionSeleccionada() const { return modelo_.seleccionada(); }
+
 std::vector<LineaDeBanda> PanelView::banda() const {
   std::vector<LineaDeBanda> lineas;
   for (auto& mensaje : modelo_.mensajesDeError()) {
@@ -139,9 +141,15 @@ void PanelView::hacer(AccionDelPanel accion) {
 
 void PanelView::clicEnFila(std::size_t posicion) {
   if (posicion >= cantidadDeFilas()) return;
-  modelo_.seleccionar(idDeFila(posicion));
+  elegirFila(posicion);
   modelo_.abrirSeleccionada();
 }
+
+void PanelView::elegirFila(std::size_t posicion) {
+  if (posicion < cantidadDeFilas()) modelo_.seleccionar(idDeFila(posicion));
+}
+
+void PanelView::mover(int filas) { modelo_.mover(filas); }
 
 void PanelView::clicEnAjustes() { estado_.abrirLaVentanaDeAjustes(); }
 
