@@ -34,7 +34,7 @@ Color mezcla(Color const& uno, Color const& otro, double cuanto) {
 /// `color`, brought as little towards black or white as `basta` asks.
 template <class Basta>
 Color hacia(Color const& color, Color const& extremo, Basta const& basta) {
-  constexpr int pasos = 50;
+  constexpr int pasos = 250;
   for (int i = 0; i <= pasos; ++i) {
     auto const uno = mezcla(color, extremo, static_cast<double>(i) / pasos);
     if (basta(uno)) return uno;
