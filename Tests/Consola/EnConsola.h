@@ -25,9 +25,9 @@ class EnConsola : public testing::Test {
     hogar.transcripcion(id(1), aiTitle("Rewrite the history parser"));
     hogar.transcripcion(id(2), aiTitle("Añadir pruebas 日本語 e\u0301"));
     hogar.transcripcion(id(3), aiTitle("Draw the icon"));
-    hogar.historia(prompt(id(1), "x", casa("src/zorve"), haceMilisegundos(5'000)) +
-                   prompt(id(2), "x", casa("trabajo"), haceMilisegundos(400'000)) +
-                   prompt(id(3), "x", casa("src/icon"), haceMilisegundos(90'000'000)));
+    escribirEnLaHistoria(prompt(id(1), "x", casa("src/zorve"), haceMilisegundos(5'000)) +
+                         prompt(id(2), "x", casa("trabajo"), haceMilisegundos(400'000)) +
+                         prompt(id(3), "x", casa("src/icon"), haceMilisegundos(90'000'000)));
     hogar.viva("1.json", R"({"pid":)" + std::to_string(::getpid()) + R"(,"sessionId":")" + id(1) +
                              R"(","cwd":"/v","status":"busy"})");
     for (auto const* carpeta : {"src/zorve", "trabajo", "src/icon"}) hogar.carpeta().carpeta(carpeta);
@@ -37,6 +37,11 @@ class EnConsola : public testing::Test {
     return "1000000" + std::to_string(cual) + "-aaaa-4bbb-8ccc-000000000001";
   }
   [[nodiscard]] std::string casa(std::string const& dentro) const { return hogar.ruta() + "/" + dentro; }
+
+  void escribirEnLaHistoria(std::string const& lineas) {
+    historia_ += lineas;
+    hogar.historia(historia_);
+  }
 
   /// A program `claude` in the person's own PATH, which only their shell's settings name.
   void conClaude(std::string const& guion) {
@@ -65,6 +70,9 @@ class EnConsola : public testing::Test {
 
   Hogar hogar;
   std::unique_ptr<PantallaVirtual> pantalla;
+
+ private:
+  std::string historia_;
 };
 
 }  // namespace zorve::pruebas

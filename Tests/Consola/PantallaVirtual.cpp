@@ -10,6 +10,7 @@
 #include <array>
 #include <csignal>
 #include <stdexcept>
+#include <utility>
 
 #include "ZorvePlatform/Posix/ProcesoHijo.h"
 
