@@ -46,7 +46,7 @@ void dibujarBarra(Lienzo& lienzo, Plano const& plano, std::size_t primera, std::
   auto const alto = std::max<std::size_t>(1, lineas * aLaVista / filas);
   auto const desde = (lineas - alto) * primera / (filas - aLaVista);
   for (std::size_t i = 0; i < alto; ++i) {
-    lienzo.poner({plano.lista + desde + i, lienzo.tamano().columnas - 1}, "▐", {.tinta = Tinta::linea});
+    lienzo.poner({plano.lista + desde + i, lienzo.tamano().columnas - 1}, "▕", {.tinta = Tinta::debil});
   }
 }
 

@@ -46,38 +46,61 @@ void Pintor::trazar(std::string& destino, Trazo const& trazo) {
   trazo_ = trazo;
 }
 
-void Pintor::pintarLinea(std::string& destino, Lienzo const& lienzo, std::size_t fila) {
+void Pintor::anotarLinea(std::vector<Tramo>& tramos, Lienzo const& lienzo, std::size_t fila) const {
   auto const columnas = lienzo.tamano().columnas;
   auto const fin = finDe(lienzo, fila);
   auto const difiere = [&](std::size_t columna) {
     return lienzo.celda(fila, columna) != ultimo_.lienzo.celda(fila, columna);
   };
-  std::size_t columna = 0;
-  while (columna < fin) {
+  auto const agregar = [&](std::size_t columna) {
     auto const& celda = lienzo.celda(fila, columna);
-    bool const cerca = pluma_ && pluma_->fila == fila && pluma_->columna <= columna &&
-                       columna - pluma_->columna < huecoQueSeReescribe;
-    if (!difiere(columna) || celda.ancho == 0) {
-      ++columna;
-      continue;
+    Posicion const aqui{fila, columna};
+    bool const sigue = !tramos.empty() && tramos.back().hasta == aqui && tramos.back().trazo == celda.trazo;
+    if (!sigue) tramos.push_back({.desde = aqui, .trazo = celda.trazo, .texto = {}, .hasta = {}});
+    tramos.back().texto += celda.texto;
+    // Where terminals disagree about the width, and at the edge, only a move says where the cursor is.
+    bool const seSabe = !anchoDudoso(celda.texto) && columna + 1 < columnas;
+    tramos.back().hasta = seSabe ? std::optional{Posicion{fila, columna + celda.ancho}} : std::nullopt;
+  };
+  auto const seReescribe = [&](std::size_t desde, std::size_t hasta) {
+    if (tramos.empty() || tramos.back().hasta != Posicion{fila, desde} ||
+        hasta - desde > huecoQueSeReescribe) {
+      return false;
     }
-    auto desde = cerca ? pluma_->columna : columna;
-    for (; desde <= columna; desde += std::max<std::size_t>(1, lienzo.celda(fila, desde).ancho)) {
-      auto const& una = lienzo.celda(fila, desde);
-      mover(destino, {fila, desde});
-      trazar(destino, una.trazo);
-      destino += una.texto;
-      pluma_ = Posicion{fila, desde + una.ancho};
-      // Where terminals disagree about the width, and at the edge, only a move says where the cursor is.
-      if (anchoDudoso(una.texto) || pluma_->columna >= columnas) pluma_.reset();
+    for (auto i = desde; i < hasta; ++i) {
+      auto const& celda = lienzo.celda(fila, i);
+      if (celda.ancho != 1 || anchoDudoso(celda.texto) || celda.trazo != tramos.back().trazo) return false;
     }
-    columna = desde;
+    return true;
+  };
+  std::size_t hueco = 0;
+  for (std::size_t columna = 0; columna < fin; ++columna) {
+    if (!difiere(columna) || lienzo.celda(fila, columna).ancho == 0) continue;
+    if (seReescribe(hueco, columna)) {
+      for (; hueco < columna; ++hueco) agregar(hueco);
+    }
+    agregar(columna);
+    hueco = columna + 1;
   }
-  for (columna = fin; columna < columnas && !difiere(columna);) ++columna;
-  if (columna == columnas) return;
-  mover(destino, {fila, fin});
-  trazar(destino, {});
-  destino += borrarHastaElFin;
+  bool sobra = false;
+  for (auto columna = fin; columna < columnas; ++columna) sobra = sobra || difiere(columna);
+  if (sobra) tramos.push_back({{fila, fin}, {}, std::string{borrarHastaElFin}, {}});
+}
+
+void Pintor::escribir(std::string& destino, std::vector<Tramo>& tramos) {
+  std::vector<Trazo> turnos;
+  for (auto const& tramo : tramos) {
+    if (std::ranges::find(turnos, tramo.trazo) == turnos.end()) turnos.push_back(tramo.trazo);
+  }
+  for (auto const& turno : turnos) {
+    for (auto const& tramo : tramos) {
+      if (tramo.trazo != turno) continue;
+      mover(destino, tramo.desde);
+      trazar(destino, tramo.trazo);
+      destino += tramo.texto;
+      pluma_ = tramo.hasta;
+    }
+  }
 }
 
 std::string Pintor::pintar(Cuadro const& cuadro) {
@@ -86,9 +109,11 @@ std::string Pintor::pintar(Cuadro const& cuadro) {
   std::string cuerpo{entero ? limpiar : std::string_view{}};
   pluma_.reset();
   trazo_ = entero ? std::nullopt : std::optional{Trazo{}};
+  std::vector<Tramo> tramos;
   for (std::size_t fila = 0; fila < cuadro.lienzo.tamano().filas; ++fila) {
-    pintarLinea(cuerpo, cuadro.lienzo, fila);
+    anotarLinea(tramos, cuadro.lienzo, fila);
   }
+  escribir(cuerpo, tramos);
   bool const quieto = !entero && cuerpo.empty() && cuadro.cursor == ultimo_.cursor;
   ultimo_ = cuadro;
   conocido_ = true;

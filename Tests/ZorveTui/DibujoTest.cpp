@@ -158,7 +158,7 @@ TEST_F(DibujoTest, unaListaLargaTieneUnaBarraQueDiceDonde) {
     auto const hecho = cuadro({60, 24});
     std::vector<std::size_t> en;
     for (std::size_t fila = 0; fila < 24; ++fila) {
-      if (hecho.lienzo.celda(fila, 59).texto == "▐") en.push_back(fila);
+      if (hecho.lienzo.celda(fila, 59).texto == "▕") en.push_back(fila);
     }
     return en;
   };
