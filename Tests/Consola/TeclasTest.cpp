@@ -25,9 +25,11 @@ class TeclasDeConsola : public EnConsola {
     for (int i = 0; i < cuantas; ++i) {
       auto const numero = std::to_string(1000 + i);
       auto const cual = "0000" + numero + "-aaaa-4bbb-8ccc-000000000001";
-      constexpr std::array cola{" of the parser, reviewed and merged", ": why do two of the builds differ at all",
-                                " draws the icons anew for light and for dark bars", ", or a plan for next week"};
-      hogar.transcripcion(cual, aiTitle("Session number " + numero + cola.at(static_cast<std::size_t>(i) % 4)));
+      constexpr std::array cola{
+          " of the parser, reviewed and merged", ": why do two of the builds differ at all",
+          " draws the icons anew for light and for dark bars", ", or a plan for next week"};
+      hogar.transcripcion(cual,
+                          aiTitle("Session number " + numero + cola.at(static_cast<std::size_t>(i) % 4)));
       historia += prompt(cual, "x", casa("src/p" + numero), haceMilisegundos(1'000'000 + 1000 * i));
     }
     escribirEnLaHistoria(historia);
