@@ -26,6 +26,13 @@ constexpr std::string_view sinRaton = "\x1B[?1000l\x1B[?1002l\x1B[?1006l";
 /// How long, in milliseconds, the rest of a sequence may take to come; a lone escape waits as long.
 constexpr int esperaTrasEscape = 40;
 
+/// Older forms of the library tell of four buttons.
+#ifdef BUTTON5_PRESSED
+constexpr mmask_t ruedaAbajo = BUTTON5_PRESSED;
+#else
+constexpr mmask_t ruedaAbajo = 0;
+#endif
+
 struct Definida {
   char const* secuencia;
   int codigo;
@@ -88,7 +95,7 @@ std::optional<Raton> gestoDelRaton() {
   Raton raton{.fila = static_cast<std::size_t>(cual.y), .columna = static_cast<std::size_t>(cual.x)};
   if ((cual.bstate & BUTTON4_PRESSED) != 0) {
     raton.gesto = Raton::Gesto::ruedaArriba;
-  } else if ((cual.bstate & BUTTON5_PRESSED) != 0) {
+  } else if ((cual.bstate & ruedaAbajo) != 0) {
     raton.gesto = Raton::Gesto::ruedaAbajo;
   } else if ((cual.bstate & BUTTON1_PRESSED) == 0) {
     return std::nullopt;
@@ -154,7 +161,7 @@ void tomar(WINDOW* teclado) {
   ::keypad(teclado, TRUE);
   ::nodelay(teclado, TRUE);
   ::mouseinterval(0);
-  ::mousemask(BUTTON1_PRESSED | BUTTON4_PRESSED | BUTTON5_PRESSED, nullptr);
+  ::mousemask(BUTTON1_PRESSED | BUTTON4_PRESSED | ruedaAbajo, nullptr);
 }
 
 }  // namespace
