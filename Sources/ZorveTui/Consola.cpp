@@ -7,6 +7,7 @@
 #include <termios.h>
 
 #include <array>
+#include <cstdint>
 #include <cstdio>
 #include <optional>
 #include <utility>
@@ -107,7 +108,7 @@ std::string capacidad(char const* nombre) {
   // The library takes names as it did before const.
   char const* const valor =
       ::tigetstr(const_cast<char*>(nombre));  // NOLINT(cppcoreguidelines-pro-type-const-cast)
-  if (valor == nullptr || valor == reinterpret_cast<char const*>(-1)) return {};
+  if (valor == nullptr || reinterpret_cast<std::intptr_t>(valor) == -1) return {};
   std::string texto{valor};
   // "$<20/>": how long slow devices of old take.
   for (auto desde = texto.find("$<"); desde != std::string::npos; desde = texto.find("$<")) {

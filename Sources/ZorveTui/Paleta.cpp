@@ -178,7 +178,9 @@ Paleta::Paleta(Profundidad profundidad, std::optional<Color> fondo)
 Color Paleta::color(Tinta tinta) const {
   auto const suyo = deEstilo(tinta, fondo_ && esClaro(*fondo_));
   if (!fondo_) return neutro(suyo);
-  return legible(suyo, *fondo_, tinta == Tinta::linea ? paraMarcas : paraTextos);
+  constexpr double haciaElFondo = 0.45;
+  if (tinta == Tinta::linea) return legible(mezcla(suyo, *fondo_, haciaElFondo), *fondo_, paraMarcas);
+  return legible(suyo, *fondo_, paraTextos);
 }
 
 void Paleta::agregarTinta(std::string& destino, Tinta tinta) const {

@@ -16,13 +16,9 @@ std::string medida(Tamano tamano) {
 
 std::string_view copiar(Idioma idioma) { return elegir(idioma, "copy id", "copiar id"); }
 std::string_view dejar(Idioma idioma) { return elegir(idioma, "leave", "salir"); }
-std::string_view aqui(Idioma idioma) { return elegir(idioma, "in this terminal", "en esta terminal"); }
-std::string_view enVentanaDeTmux(Idioma idioma) {
-  return elegir(idioma, "in a tmux window", "en una ventana de tmux");
-}
-std::string_view seImprime(Idioma idioma) {
-  return elegir(idioma, "writes the command", "escribe el comando");
-}
+std::string_view aqui(Idioma idioma) { return elegir(idioma, "opens here", "abre aquí"); }
+std::string_view enVentanaDeTmux(Idioma idioma) { return elegir(idioma, "opens in tmux", "abre en tmux"); }
+std::string_view seImprime(Idioma idioma) { return elegir(idioma, "prints the line", "imprime la línea"); }
 
 std::string noCabe(Idioma idioma, Tamano minimo, Tamano hay) {
   return std::string{elegir(idioma, "Zorve needs ", "Zorve necesita ")} + medida(minimo) +

@@ -157,7 +157,7 @@ class Ssh : public EnConsola {
 TEST_F(Ssh, laListaDeOtraMaquinaSeVeYSeFiltra) {
   pantalla = std::make_unique<PantallaVirtual>(porSsh(std::string{ZORVECTL} + " panel"));
   ASSERT_TRUE(pantalla->esperar("1/3")) << registro() << testing::PrintToString(pantalla->lineas());
-  EXPECT_TRUE(pantalla->donde("in this terminal"));
+  EXPECT_TRUE(pantalla->donde("opens here"));
   (void)pantalla->sacarBytes();
   pantalla->escribir("i");
   ASSERT_TRUE(pantalla->esperar("❯ i"));
