@@ -18,6 +18,7 @@
 #include "ZorveTui/SinArranque.h"
 #include "ZorveTui/TerminalDeAqui.h"
 #include "ZorveTui/TextosDelTerminal.h"
+#include "zorvectl/Opciones.h"
 #include "zorvectl/Ordenes.h"
 #include "zorvectl/Salida.h"
 
