@@ -236,7 +236,7 @@ int main(int cuantos, char** palabras) {
   if (cuantos == 3 && std::string_view{palabras[1]} == "desnudo") return desnudo(palabras[2]);
   auto const este = std::filesystem::read_symlink("/proc/self/exe").string();
   medirArranque(este);
-  medirGrande();
   medirTeclas(este);
+  medirGrande();
   return 0;
 }
