@@ -107,19 +107,19 @@ int desnudo(char const* archivo) {
   ::raw();
   ::noecho();
   std::string busqueda;
-  for (int codigo = 0; codigo != 3; codigo = ::getch()) {
+  for (int codigo = 0; codigo != 3; codigo = ::wgetch(stdscr)) {
     if (codigo == 127 && !busqueda.empty()) busqueda.pop_back();
     if (codigo >= ' ' && codigo < 127) busqueda += static_cast<char>(codigo);
-    ::erase();
+    ::werase(stdscr);
     int fila = 1;
     std::size_t cuantas = 0;
     for (auto const& linea : lineas) {
       if (!linea.contains(busqueda)) continue;
       ++cuantas;
-      if (fila < LINES) ::mvaddnstr(fila++, 0, linea.c_str(), COLS);
+      if (fila < LINES) mvaddnstr(fila++, 0, linea.c_str(), COLS);
     }
     ::mvprintw(0, 0, "%zu/%zu %s", cuantas, lineas.size(), busqueda.c_str());
-    ::refresh();
+    ::wrefresh(stdscr);
   }
   ::endwin();
   return 0;
