@@ -34,26 +34,32 @@ for carpeta in Sources/ZorveCore Sources/ZorveCore/*/ Sources/ZorveApp; do
   prohibe "$carpeta" "$posix" "$carpeta calls the system without a seam"
 done
 for carpeta in Sources/ZorveCore Sources/ZorveCore/*/; do
-  prohibe "$carpeta" "$incluye(ZorveApp|ZorvePlatform|ZorveTerminal|zorvectl)/" "$carpeta includes a layer above it"
+  prohibe "$carpeta" "$incluye(ZorveApp|ZorvePlatform|ZorveTerminal|ZorveTui|zorvectl)/" "$carpeta includes a layer above it"
 done
-prohibe Sources/ZorveApp "$incluye(ZorvePlatform|ZorveTerminal|zorvectl|ZorveApp/(Qt|AppKit))/" \
+prohibe Sources/ZorveApp "$incluye(ZorvePlatform|ZorveTerminal|ZorveTui|zorvectl|ZorveApp/(Qt|AppKit))/" \
   'ZorveApp includes a layer above it'
 for carpeta in Sources/ZorvePlatform Sources/ZorvePlatform/*/; do
-  prohibe "$carpeta" "$incluye(ZorveTerminal|zorvectl)/" "$carpeta includes a main's folder"
+  prohibe "$carpeta" "$incluye(ZorveTerminal|ZorveTui|zorvectl)/" "$carpeta includes a main's folder"
   prohibe "$carpeta" "${incluye}ZorveApp/" "$carpeta includes more of the application than its seams" "$costuras"
 done
-prohibe Sources/ZorveTerminal "$incluye(ZorveApp|zorvectl)/" 'The helper includes the application'
-prohibe Sources/ZorveX11 "$incluye(ZorveCore|ZorveApp|ZorvePlatform|ZorveTerminal|zorvectl)/" \
+prohibe Sources/ZorveTerminal "$incluye(ZorveApp|ZorveTui|zorvectl)/" 'The helper includes the application'
+prohibe Sources/ZorveX11 "$incluye(ZorveCore|ZorveApp|ZorvePlatform|ZorveTerminal|ZorveTui|zorvectl)/" \
   'ZorveX11 includes another layer'
 for carpeta in Sources/ZorveCore/ Sources/ZorveCore/*/ Sources/ZorveApp Sources/ZorvePlatform/ Sources/ZorvePlatform/*/; do
   prohibe "$carpeta" "$incluye(ZorveX11)/" "$carpeta asks an X server"
 done
+# The face in terminals serves both systems; of the library of terminals one file knows.
+prohibe Sources/ZorveTui "$incluye(ZorveX11|ZorveTerminal|zorvectl|ZorveApp/(Qt|AppKit)|ZorvePlatform/(Linux|MacOS))/" \
+  'The face in terminals includes what is not its own'
+prohibe Sources/ZorveTui "$sistemas" 'The face in terminals asks which system it is built for'
+dice 'The library of terminals is for Consola.cpp alone' \
+  "$(grep -lE '^#include <(curses|ncurses|term)\.h>' Sources/ZorveTui/* Sources/zorvectl/* | grep -v '/Consola.cpp$' || :)"
 prohibe Sources/zorvectl "$incluye(ZorveX11|ZorveTerminal|ZorveApp/(Qt|AppKit))/" "zorvectl includes another main's folder"
 for carpeta in Sources/ZorveApp/Qt Sources/ZorveApp/Qt/*/; do
-  prohibe "$carpeta" "$incluye(ZorveTerminal|zorvectl|ZorveApp/AppKit|ZorvePlatform/MacOS)/" \
+  prohibe "$carpeta" "$incluye(ZorveTerminal|ZorveTui|zorvectl|ZorveApp/AppKit|ZorvePlatform/MacOS)/" \
     "$carpeta includes what is not its own"
 done
-prohibe Sources/ZorveApp/AppKit "$incluye(ZorveTerminal|zorvectl|ZorveApp/Qt|ZorvePlatform/Linux)/" \
+prohibe Sources/ZorveApp/AppKit "$incluye(ZorveTerminal|ZorveTui|zorvectl|ZorveApp/Qt|ZorvePlatform/Linux)/" \
   'The AppKit front end includes what is not its own'
 
 # Terminals are put together in one place: every main asks it and names none of the parts.
@@ -64,7 +70,7 @@ for carpeta in Sources/ZorveApp/Qt Sources/ZorveApp/AppKit Sources/zorvectl; do
     dice 'A main without serviciosDeTerminal' "$carpeta"
 done
 # A front end sees the panel and the settings, not the models behind them.
-for carpeta in Sources/ZorveApp/Qt Sources/ZorveApp/Qt/*/ Sources/ZorveApp/AppKit; do
+for carpeta in Sources/ZorveApp/Qt Sources/ZorveApp/Qt/*/ Sources/ZorveApp/AppKit Sources/ZorveTui; do
   prohibe "$carpeta" '\bModeloDe(Vista|Ajustes)\b' "$carpeta reaches for a model"
 done
 

@@ -100,6 +100,8 @@ std::string PanelView::trozoDelPrompt(std::size_t posicion) const {
 
 std::optional<std::size_t> PanelView::filaSeleccionada() const { return modelo_.posicionSeleccionada(); }
 
+Session const* PanelView::sesionSeleccionada() const { return modelo_.seleccionada(); }
+
 std::vector<LineaDeBanda> PanelView::banda() const {
   std::vector<LineaDeBanda> lineas;
   for (auto& mensaje : modelo_.mensajesDeError()) {
@@ -155,7 +157,7 @@ void PanelView::hacer(AccionDelPanel accion) {
 
 void PanelView::clicEnFila(std::size_t posicion) {
   if (posicion >= cantidadDeFilas()) return;
-  modelo_.seleccionar(idDeFila(posicion));
+  elegirFila(posicion);
   modelo_.abrirSeleccionada();
 }
 
@@ -183,6 +185,12 @@ void PanelView::elegirEnElMenu(std::string_view id, EntradaDelMenuDeFila::Clase 
       if (acciones.mostrarDirectorio) acciones.mostrarDirectorio(elegida->cwd);
   }
 }
+
+void PanelView::elegirFila(std::size_t posicion) {
+  if (posicion < cantidadDeFilas()) modelo_.seleccionar(idDeFila(posicion));
+}
+
+void PanelView::mover(int filas) { modelo_.mover(filas); }
 
 void PanelView::clicEnAjustes() { estado_.abrirLaVentanaDeAjustes(); }
 

@@ -104,6 +104,9 @@ class PanelView {
   [[nodiscard]] std::string idDeFila(std::size_t posicion) const;
   /// The row to keep in sight.
   [[nodiscard]] std::optional<std::size_t> filaSeleccionada() const;
+  /// The selected session, for a front end that opens some by itself. Valid until the next change, null
+  /// without a selection.
+  [[nodiscard]] Session const* sesionSeleccionada() const;
 
   /// Empty when there is nothing to say; the band takes no space then.
   [[nodiscard]] std::vector<LineaDeBanda> banda() const;
@@ -118,6 +121,10 @@ class PanelView {
   bool tecla(Pulsacion const& pulsacion);
   /// Selects the row and opens it.
   void clicEnFila(std::size_t posicion);
+  /// Selects the row, if the list has it.
+  void elegirFila(std::size_t posicion);
+  /// Moves the selection by that many rows, to the first or the last one at most.
+  void mover(int filas);
   void clicEnAjustes();
   /// Selects the row, as its menu comes up over it. Gives the menu; nothing for a row that there is not.
   std::vector<EntradaDelMenuDeFila> abrirMenuDeFila(std::size_t posicion);

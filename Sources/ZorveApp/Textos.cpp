@@ -60,7 +60,7 @@ Textos textosDe(PreferenciaDeIdioma const& preferencia) {
 std::string Textos::atajo(std::string_view tecla) const { return unir({voces.atajo, tecla}); }
 
 std::string Textos::pistaDeCopiar() const {
-  return unir({" ", voces.atajo, elegir("C copies its id.", "C copia su id.")});
+  return unir({" ", voces.atajo, voces.teclaDeCopiar, elegir(" copies its id.", " copia su id.")});
 }
 
 std::string Textos::sinTty() const {

@@ -12,6 +12,8 @@ struct VocesDelSistema {
   std::string_view aquiEnEspanol = "en esta Mac";
   /// Stands before the key of a shortcut.
   std::string_view atajo = "⌘";
+  /// The key that copies a session's identifier.
+  std::string_view teclaDeCopiar = "C";
   /// The command that chooses a terminal, up to the terminal's identifier.
   std::string_view ordenDeEleccion = "defaults write com.sarnol.zorve zorve.terminalElegida -string ";
   /// Behind the failure to start at login: the usual reason, with the blank before it.

@@ -12,5 +12,7 @@ void agregarOrdenPlan(CLI::App& app, Contexto& contexto);
 void agregarOrdenOpen(CLI::App& app, Contexto& contexto);
 void agregarOrdenTerminals(CLI::App& app, Contexto& contexto);
 void agregarOrdenChoose(CLI::App& app, Contexto& contexto);
+/// Only where the build has the panel in a terminal (ZORVE_PANEL_EN_TERMINAL).
+void agregarOrdenPanel(CLI::App& app, Contexto& contexto);
 
 }  // namespace zorve::ctl

@@ -16,6 +16,9 @@ void agregarOrdenes(CLI::App& app, zorve::ctl::Contexto& contexto) {
   zorve::ctl::agregarOrdenOpen(app, contexto);
   zorve::ctl::agregarOrdenTerminals(app, contexto);
   zorve::ctl::agregarOrdenChoose(app, contexto);
+#if defined(ZORVE_PANEL_EN_TERMINAL)
+  zorve::ctl::agregarOrdenPanel(app, contexto);
+#endif
 }
 
 int correr(int cuantos, char** palabras) {
