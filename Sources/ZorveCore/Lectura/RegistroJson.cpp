@@ -104,8 +104,14 @@ simdjson::error_code RegistroJson::Interior::crecer(std::size_t largo) {
   if (largo <= documento.capacity()) return simdjson::SUCCESS;
   if (largo > std::numeric_limits<std::uint32_t>::max() / 2) return simdjson::CAPACITY;
   auto const capacidad = std::max(std::bit_ceil(largo), capacidadMinima);
-  if (auto const codigo = documento.allocate(capacidad)) return codigo;
-  return lector.allocate(capacidad);
+  auto codigo = documento.allocate(capacidad);
+  if (codigo == simdjson::SUCCESS) codigo = lector.allocate(capacidad);
+  // What has grown in part only would be taken for whole next time.
+  if (codigo != simdjson::SUCCESS) {
+    documento = {};
+    lector = dom::parser{};
+  }
+  return codigo;
 }
 
 simdjson::simdjson_result<dom::element> RegistroJson::Interior::analizar(ConMargen bytes) {
