@@ -18,6 +18,8 @@ Item {
     required property var marcasDeRuta
     property bool seleccionada: false
     property bool conLinea: true
+    // Kept by the list for another session, and told to nobody meanwhile.
+    property bool guardada: false
     // Whether its card is lit, over which faint texts are drawn stronger.
     readonly property bool encendida: seleccionada || zona.containsMouse
     signal pulsada
@@ -38,6 +40,9 @@ Item {
     }
 
     height: Medidas.altoDeFila
+    ListView.onPooled: guardada = true
+    ListView.onReused: guardada = false
+    Accessible.ignored: guardada
     Accessible.role: Accessible.ListItem
     Accessible.name: fila.titulo
     Accessible.description: [palabra, ruta.replace(/\u200e/g, ""), tiempo, conteo, perdida, ayuda].filter(dicho => dicho.length > 0).join(", ")
