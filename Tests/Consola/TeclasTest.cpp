@@ -10,7 +10,6 @@ using testing::Not;
 
 constexpr std::string_view abajo = "\x1BOB";
 constexpr std::string_view arriba = "\x1BOA";
-constexpr std::string_view retorno = "\r";
 
 class TeclasDeConsola : public EnConsola {
  protected:
