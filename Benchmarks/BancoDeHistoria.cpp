@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-#include "Casa.h"
+#include "Home.h"
 #include "Proceso.h"
 #include "Tabla.h"
 #include "ZorveCore/Lectura/HistoryStore.h"
@@ -18,12 +18,12 @@ constexpr std::size_t sesiones = 200;
 
 /// A history of `lineas` lines of `sesiones` sessions.
 std::string historia(std::size_t lineas) {
-  Casa const casa{.nombre = "history-" + std::to_string(lineas),
+  Home const home{.nombre = "history-" + std::to_string(lineas),
                   .transcripciones = sesiones,
                   .bytes = sesiones * 4'096,
                   .iguales = true,
                   .lineasDeHistoria = lineas};
-  return casa.preparar() + "/.claude/history.jsonl";
+  return home.preparar() + "/.claude/history.jsonl";
 }
 
 void cargar(std::string const& ruta, std::size_t cuantas) {
@@ -41,11 +41,11 @@ Mejor medida(std::string const& ruta, std::size_t cuantas, int veces) {
 }
 
 void medirRapidez() {
-  auto const casa = casaGrande(Forma::actual);
-  auto const ruta = casa.preparar() + "/.claude/history.jsonl";
+  auto const home = homeGrande(Forma::actual);
+  auto const ruta = home.preparar() + "/.claude/history.jsonl";
   auto const megabytes = static_cast<double>(std::filesystem::file_size(ruta)) / 1e6;
   tabla::titulo("History of 30,000 lines, one thread");
-  auto const mejor = medida(ruta, casa.transcripciones, 25);
+  auto const mejor = medida(ruta, home.transcripciones, 25);
   tabla::dato("size", megabytes, "MB");
   tabla::dato("load", mejor.ms, "ms");
   tabla::minimo("load", megabytes / mejor.ms * 1e3, "MB/s", 600);

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "ArchivosContados.h"
-#include "Casa.h"
+#include "Home.h"
 #include "Tabla.h"
 #include "Vara.h"
 #include "ZorveCore/Lectura/TranscriptScanner.h"
@@ -28,7 +28,7 @@ void comprobar(bool bien, char const* que) {
   std::exit(1);
 }
 
-std::string raizDe(Casa const& casa) { return TranscriptScanner::raizPorDefecto(casa.preparar()); }
+std::string raizDe(Home const& home) { return TranscriptScanner::raizPorDefecto(home.preparar()); }
 
 Tiempos medirCaliente(std::string const& raiz, std::size_t cuantas) {
   ArchivosPosix archivos;
@@ -46,16 +46,16 @@ Tiempos medirCaliente(std::string const& raiz, std::size_t cuantas) {
   return tiempos;
 }
 
-void contar(Casa const& casa, std::string const& raiz) {
+void contar(Home const& home, std::string const& raiz) {
   ArchivosPosix archivos;
   ArchivosContados contados{archivos};
   auto const resultado = TranscriptScanner::escanear(contados, raiz);
   std::size_t titulos = 0;
   for (auto const& t : resultado.transcripciones) titulos += t.aiTitle ? 1U : 0U;
-  comprobar(titulos >= casa.transcripciones / (casa.forma == Forma::actual ? 1U : 4U), "the titles");
+  comprobar(titulos >= home.transcripciones / (home.forma == Forma::actual ? 1U : 4U), "the titles");
   auto const leido = static_cast<double>(contados.bytesDeLargos()) / 1e6;
   auto const ventanas = static_cast<double>(leerVentanas(raiz).bytesDeLargos) / 1e6;
-  if (casa.forma == Forma::actual) {
+  if (home.forma == Forma::actual) {
     tabla::razon("bytes read of files over 64 KiB", leido, ventanas, "MB", 0.1);
   } else {
     tabla::frente("bytes read of files over 64 KiB", leido, ventanas, "MB");
@@ -71,21 +71,21 @@ void medirFrio(std::string const& raiz) {
   tabla::frente("scan, file contents not cached (once)", escaneo, vara, "ms");
 }
 
-void medirCasaGrande(Forma forma, double tope) {
-  auto const casa = casaGrande(forma);
-  auto const raiz = raizDe(casa);
+void medirHomeGrande(Forma forma, double tope) {
+  auto const home = homeGrande(forma);
+  auto const raiz = raizDe(home);
   tabla::titulo("2,000 transcripts, 1.1 GB, shape \"" +
                 std::string{forma == Forma::actual ? "current" : "hard"} +
                 "\" (against listing, attributes and bare reads of both windows)");
-  auto const tiempos = medirCaliente(raiz, casa.transcripciones);
+  auto const tiempos = medirCaliente(raiz, home.transcripciones);
   tabla::razon("scan, cached", tiempos.escaneo.ms, tiempos.vara.ms, "ms", tope);
   tabla::razon("scan, cached, processor time", tiempos.escaneo.msDeProcesador, tiempos.vara.msDeProcesador,
                "ms", tope);
-  contar(casa, raiz);
+  contar(home, raiz);
   medirFrio(raiz);
 }
 
-Casa deVeinteKilobytes(std::size_t cuantas) {
+Home deVeinteKilobytes(std::size_t cuantas) {
   return {.nombre = "even-" + std::to_string(cuantas),
           .transcripciones = cuantas,
           .bytes = cuantas * 20'480,
@@ -104,8 +104,8 @@ void medirLinealidad() {
 }  // namespace
 
 int main() {
-  medirCasaGrande(Forma::actual, 0.5);
-  medirCasaGrande(Forma::dificil, 1.5);
+  medirHomeGrande(Forma::actual, 0.5);
+  medirHomeGrande(Forma::dificil, 1.5);
   medirLinealidad();
   return 0;
 }

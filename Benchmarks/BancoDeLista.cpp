@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "Casa.h"
+#include "Home.h"
 #include "Proceso.h"
 #include "Tabla.h"
 #include "ZorveCore/Lectura/HistoryStore.h"
@@ -28,14 +28,14 @@ Proceso mejorDe(std::vector<std::string> const& palabras, int cuantas) {
   std::exit(1);
 }
 
-Proceso lista(std::string const& casa, int cuantas) {
-  return mejorDe({ZORVECTL, "list", "--json", "--home", casa}, cuantas);
+Proceso lista(std::string const& home, int cuantas) {
+  return mejorDe({ZORVECTL, "list", "--json", "--home", home}, cuantas);
 }
 
-void medirConstruir(std::string const& casa) {
+void medirConstruir(std::string const& home) {
   ArchivosPosix archivos;
   VidaDeProcesosPosix procesos;
-  auto const donde = SessionIndex::ubicacionesPorDefecto(casa);
+  auto const donde = SessionIndex::ubicacionesPorDefecto(home);
   Mejor escaneo;
   Mejor historia;
   Mejor indice;
@@ -52,7 +52,7 @@ void medirConstruir(std::string const& casa) {
 }
 
 double medirZorvectl(std::string const& grande) {
-  Casa const chica{
+  Home const chica{
       .nombre = "ten-sessions", .transcripciones = 10, .bytes = 10 * 100'000, .lineasDeHistoria = 100};
   tabla::titulo("zorvectl list, the whole process");
   auto const deGrande = lista(grande, 10);
@@ -62,14 +62,14 @@ double medirZorvectl(std::string const& grande) {
   return deGrande.ms;
 }
 
-void medirLoUsual(std::string const& casa, double propio) {
+void medirLoUsual(std::string const& home, double propio) {
   struct Rival {
     std::string programa;
     std::string que;
     std::string orden;
   };
-  auto const proyectos = "'" + TranscriptScanner::raizPorDefecto(casa) + "'";
-  auto const historia = "'" + SessionIndex::historyPorDefecto(casa) + "'";
+  auto const proyectos = "'" + TranscriptScanner::raizPorDefecto(home) + "'";
+  auto const historia = "'" + SessionIndex::historyPorDefecto(home) + "'";
   std::string const patron = R"('"aiTitle":"[^"]*"')";
   std::vector<Rival> const rivales{
       {"grep", "grep for the titles", "LC_ALL=C grep -rhoE " + patron + " " + proyectos + " | cat"},
@@ -91,7 +91,7 @@ void medirLoUsual(std::string const& casa, double propio) {
 }  // namespace
 
 int main() {
-  auto const grande = casaGrande(Forma::actual).preparar();
+  auto const grande = homeGrande(Forma::actual).preparar();
   medirConstruir(grande);
   medirLoUsual(grande, medirZorvectl(grande));
   return 0;

@@ -19,7 +19,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Casa.h"
+#include "Home.h"
 #include "Proceso.h"
 #include "Tabla.h"
 
@@ -156,9 +156,9 @@ Teclas teclear(std::vector<std::string> const& palabras, std::string const& marc
   return hechas;
 }
 
-std::string lineasDe(std::string const& casa) {
-  auto const archivo = casa + "/lineas";
-  auto const orden = std::string{ZORVECTL} + " list --home '" + casa + "' >'" + archivo + "' 2>/dev/null";
+std::string lineasDe(std::string const& home) {
+  auto const archivo = home + "/lineas";
+  auto const orden = std::string{ZORVECTL} + " list --home '" + home + "' >'" + archivo + "' 2>/dev/null";
   if (std::system(orden.c_str()) != 0) std::exit(1);  // NOLINT(cert-env33-c,concurrency-mt-unsafe)
   return archivo;
 }
@@ -175,12 +175,12 @@ std::vector<std::string> fzf(std::string const& lineas) {
 }
 
 void medirArranque(std::string const& este) {
-  Casa const chica{
+  Home const chica{
       .nombre = "ten-sessions", .transcripciones = 10, .bytes = 10 * 100'000, .lineasDeHistoria = 100};
-  auto const casa = chica.preparar();
-  auto const lineas = lineasDe(casa);
+  auto const home = chica.preparar();
+  auto const lineas = lineasDe(home);
   auto const todas = std::to_string(cuantasLineas(lineas));
-  std::vector<std::string> const panel{ZORVECTL, "panel", "--home", casa};
+  std::vector<std::string> const panel{ZORVECTL, "panel", "--home", home};
   tabla::titulo("zorvectl panel on a home of ten sessions, from the process's start");
   tabla::tope("to its first frame", mejorArranque([&] { return panel; }, "\x1B[?25h", veces), "ms", 25);
   auto const propio = mejorArranque([&] { return panel; }, "1/" + todas, veces);
@@ -196,27 +196,27 @@ void medirArranque(std::string const& este) {
 }
 
 void medirGrande() {
-  auto const casa = casaGrande(Forma::actual).preparar();
+  auto const home = homeGrande(Forma::actual).preparar();
   double lista = 1e300;
   double panel = 1e300;
   for (int vez = 0; vez < veces; ++vez) {
-    lista = std::min(lista, correr({ZORVECTL, "list", "--home", casa}).ms);
-    panel = std::min(panel, EnPty{{ZORVECTL, "panel", "--home", casa}}.hasta("1/"));
+    lista = std::min(lista, correr({ZORVECTL, "list", "--home", home}).ms);
+    panel = std::min(panel, EnPty{{ZORVECTL, "panel", "--home", home}}.hasta("1/"));
   }
   tabla::titulo("zorvectl panel on 2,000 transcripts (1.1 GB), against zorvectl list");
   tabla::razon("start to the rows", panel, lista, "ms", 1.3);
 }
 
 void medirTeclas(std::string const& este) {
-  Casa const muchas{.nombre = "ten-thousand",
+  Home const muchas{.nombre = "ten-thousand",
                     .transcripciones = 10'000,
                     .bytes = 10'000 * 2'000,
                     .iguales = true,
                     .lineasDeHistoria = 10'000};
-  auto const casa = muchas.preparar();
-  auto const lineas = lineasDe(casa);
+  auto const home = muchas.preparar();
+  auto const lineas = lineasDe(home);
   auto const todas = std::to_string(cuantasLineas(lineas));
-  auto const panel = teclear({ZORVECTL, "panel", "--home", casa}, "1/" + todas);
+  auto const panel = teclear({ZORVECTL, "panel", "--home", home}, "1/" + todas);
   tabla::titulo("A keystroke on " + todas + " sessions, to the last byte that the terminal is sent");
   tabla::dato("median", panel.mediana, "ms");
   tabla::tope("99th percentile", panel.alta, "ms", 8);

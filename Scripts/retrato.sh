@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Takes a picture of the panel on an X server of its own: retrato.sh BIN FILE [KIND [SCALE [LANGUAGE [KEYS...]]]]
-# BIN is the folder with zorve, KIND one of casa-de-muestra.sh's, LANGUAGE "en" or "es", KEYS are xdotool's.
+# BIN is the folder with zorve, KIND one of home-de-muestra.sh's, LANGUAGE "en" or "es", KEYS are xdotool's.
 # SCALE may be a fraction. KEYS "escribe:TEXT" types TEXT, "puntero:X,Y" moves the pointer there, in points of the panel.
 # FONDO=opaco leaves the compositor out, FONDO=blanco has everything behind the panel white.
 # shellcheck disable=SC2154 # what comun.sh sets
@@ -27,7 +27,7 @@ puntero() {
   xdotool mousemove $((x + $(por_escala "${1%,*}"))) $((y + $(por_escala "${1#*,}")))
 }
 
-hogar "$clase"
+home "$clase"
 preferencias "{\"zorve.idioma\":\"$idioma\",\"app.zorve.panelMostradoEnPrimerArranque\":true,\"zorve.avisoDeBandejaMostrado\":true}"
 servidor -screen 0 "$(por_escala 640)x$(por_escala 720)x24"
 bus
@@ -50,7 +50,7 @@ for tecla in "$@"; do
 done
 # Help texts come up after a rest.
 [[ "$*" != *puntero:* ]] || { sleep 1; espera quieta; }
-cat "$casa/zorve.err" >&2
+cat "$home/zorve.err" >&2
 mkdir -p "$(dirname "$fichero")"
 read -r x y ancho alto < <(lugar "$(mostrada)")
 margen=$(por_escala 36)

@@ -18,7 +18,7 @@
 #include <vector>
 
 #include "Anfitrion.h"
-#include "Casa.h"
+#include "Home.h"
 #include "Pantalla.h"
 #include "Tabla.h"
 
@@ -88,8 +88,8 @@ std::map<std::string, long> despertares(qint64 pid) {
 
 class Banco {
  public:
-  explicit Banco(std::string const& casa) {
-    qputenv("HOME", QByteArray::fromStdString(casa));
+  explicit Banco(std::string const& home) {
+    qputenv("HOME", QByteArray::fromStdString(home));
     qputenv("XDG_CONFIG_HOME", carpeta_.filePath(QStringLiteral("config")).toLocal8Bit());
     qputenv("XDG_CURRENT_DESKTOP", "");
     qputenv("XDG_RUNTIME_DIR", carpeta_.path().toLocal8Bit());
@@ -209,14 +209,14 @@ class Banco {
 
 int main(int cuantos, char** palabras) {
   using namespace zorve::medir;
-  auto const casa =
-      Casa{
+  auto const home =
+      Home{
           .nombre = "escritorio", .transcripciones = 5000, .bytes = 5000UL * 8192, .lineasDeHistoria = 20'000}
           .preparar();
   QCoreApplication const aplicacion{cuantos, palabras};
   tabla::titulo("The front end with 5,000 sessions");
   try {
-    Banco{casa}.todo();
+    Banco{home}.todo();
   } catch (std::exception const& fallo) {
     std::fprintf(stderr, "BancoDelEscritorio: %s\n", fallo.what());
     return 1;

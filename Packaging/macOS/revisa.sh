@@ -23,9 +23,9 @@ for programa in "$app/Contents/MacOS/Zorve" "$app/Contents/MacOS/zorvectl"; do
   done
 done
 
-casa=$(mktemp -d)
+home=$(mktemp -d)
 "$app/Contents/MacOS/zorvectl" --version
-"$app/Contents/MacOS/zorvectl" list --home "$casa"
+"$app/Contents/MacOS/zorvectl" list --home "$home"
 "$app/Contents/MacOS/zorvectl" terminals
 
 "$app/Contents/MacOS/Zorve" &

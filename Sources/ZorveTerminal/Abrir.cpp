@@ -7,7 +7,7 @@
 #include "ZorveCore/Texto/Unir.h"
 #include "ZorvePlatform/Linux/AplicacionesLinux.h"
 #include "ZorvePlatform/Linux/EntornoLinux.h"
-#include "ZorvePlatform/Posix/Hogar.h"
+#include "ZorvePlatform/Posix/Home.h"
 #include "ZorveTerminal/CarpetaDePaso.h"
 #include "ZorveTerminal/Entorno.h"
 #include "ZorveTerminal/PalabrasDelGuion.h"
@@ -52,7 +52,7 @@ std::vector<std::string> argumentosDe(FichaDeTerminal const& ficha,
 
 std::expected<void, FinTemprano> abrir(FichaDeTerminal const& ficha, std::string const& directorio,
                                        std::string const& comando, std::span<std::string const> entorno) {
-  auto const home = hogarDelUsuario().value_or("/");
+  auto const home = homeDelUsuario().value_or("/");
   auto const lugares = EntornoLinux::delProceso(home);
   auto const programa = programaDe(ficha, lugares);
   if (programa.empty()) return std::unexpected{FinTemprano{127, ficha.nombre + " is not installed"}};

@@ -15,7 +15,7 @@
 #include "ZorveCore/Texto/Escape.h"
 #include "ZorveCore/Texto/TextoVisible.h"
 #include "ZorvePlatform/Linux/EntornoLinux.h"
-#include "ZorvePlatform/Posix/Hogar.h"
+#include "ZorvePlatform/Posix/Home.h"
 #include "ZorveTerminal/Abrir.h"
 #include "ZorveTerminal/Enfocar.h"
 #include "ZorveTerminal/Entorno.h"
@@ -94,7 +94,7 @@ class Enfoque {
   Enfoque(FichaDeTerminal const* elegida, std::span<std::string const> entorno)
       : elegida_{elegida},
         entorno_{entorno},
-        programa_{ejecutableEn(EntornoLinux::delProceso(hogarDelUsuario().value_or("/")), "tmux")} {}
+        programa_{ejecutableEn(EntornoLinux::delProceso(homeDelUsuario().value_or("/")), "tmux")} {}
 
   [[nodiscard]] Hecho pane(std::string const& tty, int nivel, std::optional<pid_t> deQuien = {}) const;
 
@@ -176,7 +176,7 @@ Hecho Enfoque::enVentanaNueva(ServidorDeTmux const& servidor, std::string const&
                            "a terminal of yours: " +
                            textoVisible(orden)};
   }
-  auto const abierta = abrir(*elegida_, hogarDelUsuario().value_or("/"), orden, entorno_);
+  auto const abierta = abrir(*elegida_, homeDelUsuario().value_or("/"), orden, entorno_);
   if (!abierta) return std::unexpected{abierta.error().mensaje};
   esperarAlClienteDe(pane.sesion, servidor);
   return {};

@@ -9,7 +9,7 @@
 #include <thread>
 #include <utility>
 
-#include "ZorvePlatform/Posix/Hogar.h"
+#include "ZorvePlatform/Posix/Home.h"
 #include "ZorvePlatform/Posix/Variable.h"
 #include "ZorveTerminal/CarpetaDePaso.h"
 
@@ -111,7 +111,7 @@ std::optional<std::string> VentanasDeKWin::correr(std::string const& guion) cons
   auto const texto = std::string{alPrincipio} + guion + std::string{alFinal} + "  callDBus(" +
                      literal(nuestro.servicio) + ", " + literal(nuestro.objeto) + ", " + literal(interfaz) +
                      ", " + literal(metodo) + ", JSON.stringify(todas));\n})();\n";
-  CarpetaDePaso const carpeta{lugarDePaso(variable("XDG_RUNTIME_DIR"), hogarDelUsuario().value_or("/"))};
+  CarpetaDePaso const carpeta{lugarDePaso(variable("XDG_RUNTIME_DIR"), homeDelUsuario().value_or("/"))};
   if (carpeta.ruta().empty() || !carpeta.escribir("guion", texto)) return std::nullopt;
   auto const archivo = carpeta.ruta() + "/guion";
   std::vector<Argumento> const cual{archivo, archivo};

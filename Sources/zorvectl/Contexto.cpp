@@ -2,13 +2,13 @@
 
 #include "ZorveCore/Lectura/SessionIndex.h"
 #include "ZorveCore/Texto/TextoVisible.h"
-#include "ZorvePlatform/Posix/Hogar.h"
+#include "ZorvePlatform/Posix/Home.h"
 
 namespace zorve::ctl {
 
-std::expected<std::string, std::string> hogarDe(std::string const& opcion) {
-  if (opcion.empty()) return hogarDelUsuario();
-  return hogarNombrado(opcion);
+std::expected<std::string, std::string> homeDe(std::string const& opcion) {
+  if (opcion.empty()) return homeDelUsuario();
+  return homeNombrado(opcion);
 }
 
 IndexResult leerSesiones(Contexto const& contexto, std::string const& home, VocesDelSistema const& voces) {

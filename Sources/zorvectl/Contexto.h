@@ -24,7 +24,7 @@ struct Contexto {
 };
 
 /// The home directory that `--home` names, or the user's where it is empty.
-[[nodiscard]] std::expected<std::string, std::string> hogarDe(std::string const& opcion);
+[[nodiscard]] std::expected<std::string, std::string> homeDe(std::string const& opcion);
 
 /// Every session below `home`, and the notices in the words of `voces`.
 [[nodiscard]] IndexResult leerSesiones(Contexto const& contexto, std::string const& home,

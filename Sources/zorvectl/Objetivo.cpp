@@ -81,7 +81,7 @@ std::shared_ptr<Objetivo> agregarObjetivo(CLI::App& orden) {
 
 std::expected<PlanHecho, SinPlan> planear(Contexto const& contexto, Objetivo const& objetivo) {
   if (auto uso = usoIncorrecto(objetivo)) return std::unexpected{SinPlan{Contexto::malUso, *std::move(uso)}};
-  auto const home = hogarDe(objetivo.home);
+  auto const home = homeDe(objetivo.home);
   if (!home) return std::unexpected{SinPlan{Contexto::fallo, home.error()}};
   auto servicios = std::make_unique<ServiciosDeTerminal>(serviciosDeTerminal(*home));
   auto terminal = terminalPara(*servicios, objetivo.terminal);

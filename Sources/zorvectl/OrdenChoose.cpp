@@ -35,7 +35,7 @@ void elegirLoPedido(Contexto& contexto, Opciones const& opciones) {
   if (opciones.identificador.has_value() == opciones.automatica) {
     return terminarCon(contexto, Contexto::malUso, "name one thing: ID or --auto");
   }
-  auto const home = hogarDe("");
+  auto const home = homeDe("");
   if (!home) return terminarCon(contexto, Contexto::fallo, home.error());
   auto const servicios = serviciosDeTerminal(*home);
   if (opciones.identificador) return elegirUna(contexto, servicios, *opciones.identificador);

@@ -40,7 +40,7 @@ void mostrar(Contexto& contexto, IndexResult const& resultado, std::vector<Sessi
 }
 
 void listar(Contexto& contexto, Opciones const& opciones) {
-  auto const home = hogarDe(opciones.home);
+  auto const home = homeDe(opciones.home);
   if (!home) return terminarCon(contexto, Contexto::fallo, home.error());
   auto const resultado = leerSesiones(contexto, *home, opciones.json ? VocesDelSistema{} : contexto.voces);
   auto const sesiones = elegidas(resultado, opciones.filtro);

@@ -135,7 +135,7 @@ void cumplir(Contexto& contexto, tui::Salida const& salida) {
 }
 
 void abrirPanel(Contexto& contexto, Opciones const& opciones) {
-  auto const home = hogarDe(opciones.home);
+  auto const home = homeDe(opciones.home);
   if (!home) return terminarCon(contexto, Contexto::fallo, home.error());
   auto const salida = mostrar(*new Mundo{*home}, opciones.pedido);
   if (salida) {

@@ -91,7 +91,7 @@ std::string terminalesParaPersonas(MiradaDeTerminales const& mirada, Pantalla co
 }
 
 void mostrar(Contexto& contexto, bool json) {
-  auto const home = hogarDe("");
+  auto const home = homeDe("");
   if (!home) return terminarCon(contexto, Contexto::fallo, home.error());
   auto const servicios = serviciosDeTerminal(*home);
   auto fuentes = servicios.apertura.fuentes;

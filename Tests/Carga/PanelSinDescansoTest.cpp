@@ -14,8 +14,8 @@
 #include <thread>
 #include <vector>
 
-#include "Carga/CasaGrande.h"
 #include "Carga/DespachadorSuelto.h"
+#include "Carga/HomeGrande.h"
 #include "Carga/Recursos.h"
 #include "Dobles/PortapapelesDePrueba.h"
 #include "Dobles/PreferenciasEnMemoria.h"
@@ -62,7 +62,7 @@ class TerminalFugaz final : public Terminal {
 /// Changes the home without rest: titles, prompts, live records, whole transcripts that come and go.
 class Escritor {
  public:
-  explicit Escritor(CasaGrande const& casa) : casa_{casa}, hilo_{[this] { escribir(); }} {}
+  explicit Escritor(HomeGrande const& home) : home_{home}, hilo_{[this] { escribir(); }} {}
   Escritor(Escritor const&) = delete;
   Escritor& operator=(Escritor const&) = delete;
   ~Escritor() {
@@ -76,19 +76,19 @@ class Escritor {
     for (int vuelta = 0; !basta_; ++vuelta) {
       auto const n = azar() % sesiones;
       auto const deQueVa = vuelta % 4;
-      if (deQueVa == 0) casa_.transcripcion(n, "Title " + std::to_string(vuelta));
-      if (deQueVa == 1) quitar("projects/p0/" + CasaGrande::uuid(n) + ".jsonl");
-      if (deQueVa == 2) vuelta % 8 == 2 ? casa_.viva(n) : quitar("sessions/" + std::to_string(n) + ".json");
-      if (deQueVa == 3 && vuelta % 400 == 3) (void)casa_.historia(sesiones, 200'000, 40);
+      if (deQueVa == 0) home_.transcripcion(n, "Title " + std::to_string(vuelta));
+      if (deQueVa == 1) quitar("projects/p0/" + HomeGrande::uuid(n) + ".jsonl");
+      if (deQueVa == 2) vuelta % 8 == 2 ? home_.viva(n) : quitar("sessions/" + std::to_string(n) + ".json");
+      if (deQueVa == 3 && vuelta % 400 == 3) (void)home_.historia(sesiones, 200'000, 40);
       std::this_thread::sleep_for(std::chrono::milliseconds{2});
     }
   }
   void quitar(std::string const& relativa) const {
     std::error_code error;
-    std::filesystem::remove(casa_.ruta() + "/.claude/" + relativa, error);
+    std::filesystem::remove(home_.ruta() + "/.claude/" + relativa, error);
   }
 
-  CasaGrande const& casa_;
+  HomeGrande const& home_;
   std::atomic<bool> basta_ = false;
   std::thread hilo_;
 };
@@ -98,12 +98,12 @@ class PanelSinDescanso : public testing::Test {
   PanelSinDescanso() {
     // As the programs with a face have it.
     mallopt(M_ARENA_MAX, 2);
-    for (std::size_t n = 0; n < sesiones; ++n) casa.transcripcion(n, "Session");
-    (void)casa.historia(sesiones, 200'000, 40);
+    for (std::size_t n = 0; n < sesiones; ++n) home.transcripcion(n, "Session");
+    (void)home.historia(sesiones, 200'000, 40);
   }
 
   IndexResult leer() {
-    return SessionIndex::construir(archivos, procesos, SessionIndex::ubicacionesPorDefecto(casa.ruta()));
+    return SessionIndex::construir(archivos, procesos, SessionIndex::ubicacionesPorDefecto(home.ruta()));
   }
   /// One round: a refresh, what a person does to the list, and openings until there were that many.
   void ronda(int vuelta, int hastaAhora) {
@@ -117,7 +117,7 @@ class PanelSinDescanso : public testing::Test {
   }
 
   Recursos const alPrincipio = Recursos::deAhora();
-  CasaGrande casa;
+  HomeGrande home;
   ArchivosPosix archivos;
   VidaDeProcesosPosix procesos;
   EjecutorDeProcesos ejecutor;
@@ -138,7 +138,7 @@ class PanelSinDescanso : public testing::Test {
 TEST_F(PanelSinDescanso, LargoDiezMinutosDeRefrescosYMilAperturasNoDejanNadaAtras) {
   auto const dura = duracion();
   auto const rondas = static_cast<int>(dura / entreRefrescos);
-  auto escritor = std::make_unique<Escritor>(casa);
+  auto escritor = std::make_unique<Escritor>(home);
   auto const empieza = Reloj::now();
   std::vector<std::int64_t> memoria;
   for (int vuelta = 1; vuelta <= rondas; ++vuelta) {

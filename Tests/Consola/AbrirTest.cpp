@@ -18,7 +18,7 @@ TEST_F(AbrirEnConsola, laAcabadaTomaElLugarDelPanelYSuEstadoEsElNuestro) {
   vista.escribir("\r");
   EXPECT_EQ(vista.terminar(), 7);
   EXPECT_TRUE(vista.donde("corre -r " + id(3)));
-  EXPECT_TRUE(vista.donde(casa("src/icon")));
+  EXPECT_TRUE(vista.donde(enElHome("src/icon")));
   EXPECT_TRUE(vista.donde("en terminal"));
   EXPECT_FALSE(vista.enPantallaAparte());
 }
@@ -34,7 +34,7 @@ TEST_F(AbrirEnConsola, controlCLlegaALaSesionYNoLaCierraElPanel) {
 }
 
 TEST_F(AbrirEnConsola, unDirectorioQueFaltaSeDiceYElPanelSigue) {
-  std::filesystem::remove_all(casa("src/icon"));
+  std::filesystem::remove_all(enElHome("src/icon"));
   auto& vista = abrir();
   vista.escribir("icon");
   ASSERT_TRUE(vista.esperar("1/1"));
@@ -58,14 +58,14 @@ TEST_F(AbrirEnConsola, conPrintSaleLaLineaYElTerminalQuedaComoEstaba) {
       std::string{"x=$("} + ZORVECTL + " panel --print --filter icon); echo \"[$x]\"; eval \"$x\" ; pwd"};
   como.columnas = 200;
   conClaude("exit 0");
-  como.entorno.push_back("PATH=" + casa("propios") + ":/usr/bin:/bin");
+  como.entorno.push_back("PATH=" + enElHome("propios") + ":/usr/bin:/bin");
   std::erase(como.entorno, "PATH=/usr/bin:/bin");
   pantalla = std::make_unique<PantallaVirtual>(como);
   ASSERT_TRUE(pantalla->esperar("1/1"));
   pantalla->escribir("\r");
   EXPECT_EQ(pantalla->terminar(), 0);
-  EXPECT_TRUE(pantalla->donde("[cd '" + casa("src/icon") + "' && claude -r '" + id(3) + "']"));
-  EXPECT_THAT(pantalla->lineas(), testing::Contains(casa("src/icon")));
+  EXPECT_TRUE(pantalla->donde("[cd '" + enElHome("src/icon") + "' && claude -r '" + id(3) + "']"));
+  EXPECT_THAT(pantalla->lineas(), testing::Contains(enElHome("src/icon")));
 }
 
 TEST_F(AbrirEnConsola, dejarElPanelConPrintNoEscribeNada) {

@@ -86,7 +86,7 @@ TEST_F(Devolver, sinNadieAlOtroLadoAcabaAunqueSeIgnoreLaSenal) {
 
 TEST_F(Devolver, sinTerminalEsUnaFraseYEstadoDos) {
   auto const corrida =
-      dobles::correr({"/usr/bin/setsid", "--wait", ZORVECTL, "panel"}, {{"HOME", hogar.ruta()}});
+      dobles::correr({"/usr/bin/setsid", "--wait", ZORVECTL, "panel"}, {{"HOME", home.ruta()}});
   EXPECT_EQ(corrida.codigo, 2);
   EXPECT_EQ(corrida.error,
             "zorvectl: there is no terminal here to draw the panel on; zorvectl list needs none\n");
@@ -110,7 +110,7 @@ TEST_F(Devolver, unaQueAquiNoSeConoceSeDibujaComoLaQueTodasImitan) {
 
 TEST_F(Devolver, laSalidaEstandarQuedaLibre) {
   auto como = con();
-  auto const archivo = casa("salida");
+  auto const archivo = enElHome("salida");
   como.palabras = {"/bin/sh", "-c", std::string{ZORVECTL} + " panel >" + archivo + " 2>&1 </dev/null"};
   pantalla = std::make_unique<PantallaVirtual>(como);
   ASSERT_TRUE(pantalla->esperar("1/3"));

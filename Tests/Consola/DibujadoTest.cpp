@@ -52,7 +52,7 @@ TEST_F(Dibujado, enEspanolDiceLoMismo) {
 }
 
 TEST_F(Dibujado, sonLasSesionesDeListEnSuOrdenConSusPalabras) {
-  auto const lista = hogar.zorvectl({"list"}).salida;
+  auto const lista = home.zorvectl({"list"}).salida;
   auto& vista = abrir();
   std::size_t desde = 0;
   for (auto const* titulo :

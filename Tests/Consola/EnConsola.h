@@ -13,7 +13,7 @@
 #include <unistd.h>
 
 #include "Consola/PantallaVirtual.h"
-#include "zorvectl/Hogar.h"
+#include "zorvectl/Home.h"
 
 namespace zorve::pruebas {
 
@@ -22,44 +22,44 @@ namespace zorve::pruebas {
 class EnConsola : public testing::Test {
  protected:
   EnConsola() {
-    hogar.transcripcion(id(1), aiTitle("Rewrite the history parser"));
-    hogar.transcripcion(id(2), aiTitle("Añadir pruebas 日本語 e\u0301"));
-    hogar.transcripcion(id(3), aiTitle("Draw the icon"));
-    escribirEnLaHistoria(prompt(id(1), "x", casa("src/zorve"), haceMilisegundos(5'000)) +
-                         prompt(id(2), "x", casa("trabajo"), haceMilisegundos(400'000)) +
-                         prompt(id(3), "x", casa("src/icon"), haceMilisegundos(90'000'000)));
-    hogar.viva("1.json", R"({"pid":)" + std::to_string(::getpid()) + R"(,"sessionId":")" + id(1) +
-                             R"(","cwd":"/v","status":"busy"})");
-    for (auto const* carpeta : {"src/zorve", "trabajo", "src/icon"}) hogar.carpeta().carpeta(carpeta);
+    home.transcripcion(id(1), aiTitle("Rewrite the history parser"));
+    home.transcripcion(id(2), aiTitle("Añadir pruebas 日本語 e\u0301"));
+    home.transcripcion(id(3), aiTitle("Draw the icon"));
+    escribirEnLaHistoria(prompt(id(1), "x", enElHome("src/zorve"), haceMilisegundos(5'000)) +
+                         prompt(id(2), "x", enElHome("trabajo"), haceMilisegundos(400'000)) +
+                         prompt(id(3), "x", enElHome("src/icon"), haceMilisegundos(90'000'000)));
+    home.viva("1.json", R"({"pid":)" + std::to_string(::getpid()) + R"(,"sessionId":")" + id(1) +
+                            R"(","cwd":"/v","status":"busy"})");
+    for (auto const* carpeta : {"src/zorve", "trabajo", "src/icon"}) home.carpeta().carpeta(carpeta);
   }
 
   static std::string id(int cual) {
     return "1000000" + std::to_string(cual) + "-aaaa-4bbb-8ccc-000000000001";
   }
-  [[nodiscard]] std::string casa(std::string const& dentro) const { return hogar.ruta() + "/" + dentro; }
+  [[nodiscard]] std::string enElHome(std::string const& dentro) const { return home.ruta() + "/" + dentro; }
 
   void escribirEnLaHistoria(std::string const& lineas) {
     historia_ += lineas;
-    hogar.historia(historia_);
+    home.historia(historia_);
   }
 
   /// A program `claude` in the person's own PATH, which only their shell's settings name.
   void conClaude(std::string const& guion) {
-    auto const ruta = hogar.carpeta().escribir("propios/claude", "#!/bin/sh\n" + guion + "\n");
+    auto const ruta = home.carpeta().escribir("propios/claude", "#!/bin/sh\n" + guion + "\n");
     std::filesystem::permissions(ruta, std::filesystem::perms{0755});
-    hogar.carpeta().escribir(".bashrc", "PATH=$HOME/propios:$PATH\n");
+    home.carpeta().escribir(".bashrc", "PATH=$HOME/propios:$PATH\n");
   }
   void enEspanol() const {
-    hogar.carpeta().escribir(".config/com.sarnol.zorve/preferences.json", R"({"zorve.idioma":"es"})");
+    home.carpeta().escribir(".config/com.sarnol.zorve/preferences.json", R"({"zorve.idioma":"es"})");
   }
 
   PantallaVirtual::Con con(std::vector<std::string> opciones = {}, std::vector<std::string> entorno = {}) {
     opciones.insert(opciones.begin(), {ZORVECTL, "panel"});
-    entorno.insert(entorno.end(), {"HOME=" + hogar.ruta(), "PATH=/usr/bin:/bin", "SHELL=/bin/bash"});
+    entorno.insert(entorno.end(), {"HOME=" + home.ruta(), "PATH=/usr/bin:/bin", "SHELL=/bin/bash"});
     if (std::ranges::none_of(entorno, [](std::string const& una) { return una.starts_with("TERM="); })) {
       entorno.emplace_back("TERM=xterm-256color");
     }
-    return {.palabras = std::move(opciones), .entorno = std::move(entorno), .carpeta = hogar.ruta()};
+    return {.palabras = std::move(opciones), .entorno = std::move(entorno), .carpeta = home.ruta()};
   }
   PantallaVirtual& abrir(PantallaVirtual::Con como) {
     pantalla = std::make_unique<PantallaVirtual>(std::move(como));
@@ -68,7 +68,7 @@ class EnConsola : public testing::Test {
   }
   PantallaVirtual& abrir() { return abrir(con()); }
 
-  Hogar hogar;
+  Home home;
   std::unique_ptr<PantallaVirtual> pantalla;
 
  private:

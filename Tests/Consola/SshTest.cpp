@@ -59,13 +59,13 @@ class Ssh : public EnConsola {
  protected:
   void SetUp() override {
     if (::access(sshd, X_OK) != 0) GTEST_SKIP() << "sshd is not here (openssh-server)";
-    hogar.carpeta().carpeta("ssh");
+    home.carpeta().carpeta("ssh");
     for (auto const* cual : {"servidor", "persona"}) {
-      auto const corrida =
-          dobles::correr({"/usr/bin/ssh-keygen", "-q", "-t", "ed25519", "-N", "", "-f", casa("ssh/") + cual});
+      auto const corrida = dobles::correr(
+          {"/usr/bin/ssh-keygen", "-q", "-t", "ed25519", "-N", "", "-f", enElHome("ssh/") + cual});
       ASSERT_EQ(corrida.codigo, 0) << corrida.error;
     }
-    std::filesystem::copy_file(casa("ssh/persona.pub"), casa("ssh/permitidas"));
+    std::filesystem::copy_file(enElHome("ssh/persona.pub"), enElHome("ssh/permitidas"));
     if (esRoot()) cuentaConShell();
     if (IsSkipped()) return;
     empezar();
@@ -90,26 +90,27 @@ class Ssh : public EnConsola {
       if (linea.starts_with("nobody:")) linea = linea.substr(0, linea.rfind(':')) + ":/bin/bash";
       cuentas += linea + "\n";
     }
-    hogar.carpeta().escribir("ssh/cuentas", cuentas);
+    home.carpeta().escribir("ssh/cuentas", cuentas);
     auto const aparte = dobles::correr(
-        {"/usr/bin/unshare", "-m", "/bin/mount", "--bind", casa("ssh/cuentas"), "/etc/passwd"});
+        {"/usr/bin/unshare", "-m", "/bin/mount", "--bind", enElHome("ssh/cuentas"), "/etc/passwd"});
     if (aparte.codigo != 0) GTEST_SKIP() << "no mount namespace can be made here: " << aparte.error;
     std::filesystem::create_directories("/run/sshd");
     // Whoever comes works in the home as its owner would.
-    (void)dobles::correr({"/bin/chown", "-R", "nobody", hogar.ruta()});
-    (void)dobles::correr({"/bin/chown", "root", casa("ssh/servidor"), casa("ssh/persona")});
+    (void)dobles::correr({"/bin/chown", "-R", "nobody", home.ruta()});
+    (void)dobles::correr({"/bin/chown", "root", enElHome("ssh/servidor"), enElHome("ssh/persona")});
   }
 
   void empezar() {
     puerto_ = puertoLibre();
     std::string orden =
         std::string{sshd} + " -D -e -f /dev/null -p " + std::to_string(puerto_) + " -h " +
-        palabraDeShell(casa("ssh/servidor")) + " -o ListenAddress=127.0.0.1" +
-        " -o StrictModes=no -o PidFile=none -o AuthorizedKeysFile=" + palabraDeShell(casa("ssh/permitidas")) +
+        palabraDeShell(enElHome("ssh/servidor")) + " -o ListenAddress=127.0.0.1" +
+        " -o StrictModes=no -o PidFile=none -o AuthorizedKeysFile=" +
+        palabraDeShell(enElHome("ssh/permitidas")) +
         " -o PasswordAuthentication=no -o KbdInteractiveAuthentication=no -o PrintMotd=no 2>" +
-        palabraDeShell(casa("ssh/registro"));
+        palabraDeShell(enElHome("ssh/registro"));
     if (esRoot())
-      orden = "mount --bind " + palabraDeShell(casa("ssh/cuentas")) + " /etc/passwd && exec " + orden;
+      orden = "mount --bind " + palabraDeShell(enElHome("ssh/cuentas")) + " /etc/passwd && exec " + orden;
     std::vector<std::string> palabras{"/bin/sh", "-c", orden};
     if (esRoot()) palabras.insert(palabras.begin(), {"/usr/bin/unshare", "-m"});
     ASSERT_EQ(::posix_spawn(&servidor_, palabras.front().c_str(), nullptr, nullptr, punteros(palabras).data(),
@@ -124,29 +125,28 @@ class Ssh : public EnConsola {
   /// A person's terminal in which ssh runs `orden` at the server.
   PantallaVirtual::Con porSsh(std::string const& orden, bool conTerminal = true) {
     auto como = con();
-    como.palabras = {
-        "/usr/bin/ssh",
-        "-F",
-        "/dev/null",
-        "-p",
-        std::to_string(puerto_),
-        "-i",
-        casa("ssh/persona"),
-        "-o",
-        "StrictHostKeyChecking=no",
-        "-o",
-        "UserKnownHostsFile=/dev/null",
-        "-o",
-        "LogLevel=ERROR",
-        "-o",
-        "IdentitiesOnly=yes",
-        conTerminal ? "-tt" : "-T",
-        usuario() + "@127.0.0.1",
-        "HOME=" + palabraDeShell(hogar.ruta()) + " SHELL=/bin/bash; export HOME SHELL; " + orden};
+    como.palabras = {"/usr/bin/ssh",
+                     "-F",
+                     "/dev/null",
+                     "-p",
+                     std::to_string(puerto_),
+                     "-i",
+                     enElHome("ssh/persona"),
+                     "-o",
+                     "StrictHostKeyChecking=no",
+                     "-o",
+                     "UserKnownHostsFile=/dev/null",
+                     "-o",
+                     "LogLevel=ERROR",
+                     "-o",
+                     "IdentitiesOnly=yes",
+                     conTerminal ? "-tt" : "-T",
+                     usuario() + "@127.0.0.1",
+                     "HOME=" + palabraDeShell(home.ruta()) + " SHELL=/bin/bash; export HOME SHELL; " + orden};
     return como;
   }
   [[nodiscard]] std::string registro() const {
-    std::ifstream de{casa("ssh/registro")};
+    std::ifstream de{enElHome("ssh/registro")};
     return {std::istreambuf_iterator<char>{de}, {}};
   }
 
@@ -179,7 +179,7 @@ TEST_F(Ssh, laAcabadaCorreAlliYSuEstadoVuelve) {
 }
 
 TEST_F(Ssh, siLaConexionSeVaElPanelAcabaEnMenosDeUnSegundo) {
-  auto const donde = casa("trabajo/pid");
+  auto const donde = enElHome("trabajo/pid");
   pantalla = std::make_unique<PantallaVirtual>(
       porSsh("echo $$ >" + palabraDeShell(donde) + "; exec " + std::string{ZORVECTL} + " panel"));
   ASSERT_TRUE(pantalla->esperar("1/3")) << registro();

@@ -27,9 +27,9 @@ class TeclasDeConsola : public EnConsola {
       constexpr std::array cola{
           " of the parser, reviewed and merged", ": why do two of the builds differ at all",
           " draws the icons anew for light and for dark bars", ", or a plan for next week"};
-      hogar.transcripcion(cual,
-                          aiTitle("Session number " + numero + cola.at(static_cast<std::size_t>(i) % 4)));
-      historia += prompt(cual, "x", casa("src/p" + numero), haceMilisegundos(1'000'000 + 1000 * i));
+      home.transcripcion(cual,
+                         aiTitle("Session number " + numero + cola.at(static_cast<std::size_t>(i) % 4)));
+      historia += prompt(cual, "x", enElHome("src/p" + numero), haceMilisegundos(1'000'000 + 1000 * i));
     }
     escribirEnLaHistoria(historia);
   }
@@ -101,8 +101,8 @@ TEST_F(TeclasDeConsola, loPegadoVaALaBusquedaSinAbrirNada) {
 
 TEST_F(TeclasDeConsola, controlRRefrescaLoQueCambio) {
   auto& vista = abrir();
-  hogar.transcripcion(id(4), aiTitle("Recién llegada"));
-  escribirEnLaHistoria(prompt(id(4), "x", casa("src/zorve"), haceMilisegundos(1'000)));
+  home.transcripcion(id(4), aiTitle("Recién llegada"));
+  escribirEnLaHistoria(prompt(id(4), "x", enElHome("src/zorve"), haceMilisegundos(1'000)));
   vista.escribir("\x12");
   EXPECT_TRUE(vista.esperar("Recién llegada"));
 }

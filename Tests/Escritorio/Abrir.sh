@@ -10,29 +10,29 @@ uno=00000001-5e55-4000-8000-000000000001 dos=00000002-5e55-4000-8000-00000000000
 apunta_terminada() {
   local id
   id=$(printf '%08d-5e55-4000-8000-%012d' "$1" "$1")
-  mkdir -p "$casa/src/$2" "$casa/.claude/projects/$2"
+  mkdir -p "$home/src/$2" "$home/.claude/projects/$2"
   printf '{"display":"Sesion %s","timestamp":%d000,"project":"%s","sessionId":"%s"}\n' "$2" \
-    $(($(date +%s) - 500 * $1)) "$casa/src/$2" "$id" >>"$casa/.claude/history.jsonl"
-  printf '{"type":"user","cwd":"%s"}\n' "$casa/src/$2" >"$casa/.claude/projects/$2/$id.jsonl"
+    $(($(date +%s) - 500 * $1)) "$home/src/$2" "$id" >>"$home/.claude/history.jsonl"
+  printf '{"type":"user","cwd":"%s"}\n' "$home/src/$2" >"$home/.claude/projects/$2/$id.jsonl"
 }
 con_dos_terminadas() {
   escritorio vacia
   lector
-  mkdir -p "$casa/bin"
-  cat >"$casa/bin/claude" <<FIN
+  mkdir -p "$home/bin"
+  cat >"$home/bin/claude" <<FIN
 #!/bin/sh
-{ printf '%s\n' "\$PWD" "\$@"; echo .; } >>"$casa/abiertas"
+{ printf '%s\n' "\$PWD" "\$@"; echo .; } >>"$home/abiertas"
 exec sleep 60
 FIN
-  chmod +x "$casa/bin/claude"
-  export PATH=$casa/bin:$PATH SHELL=/bin/sh
+  chmod +x "$home/bin/claude"
+  export PATH=$home/bin:$PATH SHELL=/bin/sh
   apunta_terminada 1 uno
   apunta_terminada 2 dos
   preferencias '{"app.zorve.panelMostradoEnPrimerArranque":true,"zorve.avisoDeBandejaMostrado":true,"zorve.terminalElegida":"xterm"}'
   zorve
   muestra
 }
-abierta() { [ "$(tr '\n' ' ' <"$casa/abiertas")" = "$1" ]; }
+abierta() { [ "$(tr '\n' ' ' <"$home/abiertas")" = "$1" ]; }
 cierra_xterm() { for cada in $(xdotool search --class xterm); do xdotool windowkill "$cada"; done; }
 
 prueba_returnAbreLaSesionElegidaEnSuDirectorio() {
@@ -40,7 +40,7 @@ prueba_returnAbreLaSesionElegidaEnSuDirectorio() {
   xdotool type uno
   espera copiado_es 1
   xdotool key Return
-  espera abierta "$casa/src/uno -r $uno . "
+  espera abierta "$home/src/uno -r $uno . "
   espera no panel_visible
   cierra_xterm
 }
@@ -51,7 +51,7 @@ prueba_unClicAbreLaSesionDeEsaFila() {
   espera dice_algo 'list item "Sesion dos"'
   read -r x y _ _ < <(lugar "$(panel)")
   pulsa_en $((x + 200)) $((y + 59 + 56 + 28))
-  espera abierta "$casa/src/dos -r $dos . "
+  espera abierta "$home/src/dos -r $dos . "
   espera no panel_visible
   cierra_xterm
 }

@@ -6,8 +6,8 @@
 . "$(dirname "${BASH_SOURCE[0]}")/comun-gustos.sh"
 primera='list item "Rewrite the history parser for streaming reads" \(working, ~/src/zorve, [^,]*, 42 prompts\)'
 segunda='list item "Parser fails on lone surrogates" \(active, ~/src/zorve, [67]m, 12 prompts\)'
-calla() { arbol && ! grep -qF "$1" "$casa/arbol"; }
-oida_al_final() { [ "$(tail -n 1 "$casa/oidas.out")" = "$1" ]; }
+calla() { arbol && ! grep -qF "$1" "$home/arbol"; }
+oida_al_final() { [ "$(tail -n 1 "$home/oidas.out")" = "$1" ]; }
 
 con_panel() {
   escritorio avisos
@@ -43,7 +43,7 @@ prueba_unAvisoEsUnaAlerta() {
 prueba_irAUnaFilaLaLee() {
   con_panel
   arranca oidas "$aqui/arbol.py" zorve oye
-  espera grep listening "$casa/oidas.out"
+  espera grep listening "$home/oidas.out"
   xdotool key Down
   espera oida_al_final 'list item "Parser fails on lone surrogates"'
   espera dice_algo "$primera \[selectable\]"
@@ -53,7 +53,7 @@ prueba_irAUnaFilaLaLee() {
 prueba_alEscribirSeVuelveALaBusqueda() {
   con_panel
   arranca oidas "$aqui/arbol.py" zorve oye
-  espera grep listening "$casa/oidas.out"
+  espera grep listening "$home/oidas.out"
   xdotool key Down
   espera oida_al_final 'list item "Parser fails on lone surrogates"'
   xdotool type parser

@@ -110,7 +110,7 @@ prueba_elegirOtraQuitaElAvisoYDejaLoAjeno() {
   pulsa_opcion kitty
   espera elegida_es kitty
   espera no dice_algo 'alert "'
-  jq -e '.ajena.de == [1,2.5]' "$casa/.config/com.sarnol.zorve/preferences.json" >/dev/null ||
+  jq -e '.ajena.de == [1,2.5]' "$home/.config/com.sarnol.zorve/preferences.json" >/dev/null ||
     fallo "a setting of others was lost"
 }
 

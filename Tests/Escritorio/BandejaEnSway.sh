@@ -23,7 +23,7 @@ prueba_unClicAbreElPanelConElTestigoDeLaBarra() {
   pide ProvideXdgActivationToken del-clic
   pide Activate 0 0
   espera panel_con_teclado_en_sway
-  espera grep -q 'xdg_activation_v1[@#].*activate("del-clic"' "$casa/zorve.err"
+  espera grep -q 'xdg_activation_v1[@#].*activate("del-clic"' "$home/zorve.err"
 }
 
 prueba_otroClicLoCierra() {

@@ -7,11 +7,11 @@
 
 # en_el_escritorio: the rows that a screen reader is told of, as TITLE (STATE, PATH, AGE, PROMPTS), without their help.
 en_el_escritorio() {
-  arbol && sed -nE 's/^ *list item "(.*)" \(([^()]* prompts)[^()]*\)( \[.*)?$/\1 (\2)/p' "$casa/arbol"
+  arbol && sed -nE 's/^ *list item "(.*)" \(([^()]* prompts)[^()]*\)( \[.*)?$/\1 (\2)/p' "$home/arbol"
 }
 # en_la_terminal: the same of the cells: a line TITLE AGE, a line PATH [· STATE] PROMPTS.
 en_la_terminal() {
-  tmux -S "$casa/run/tmux" capture-pane -p -t panel | sed -E 's/^▌/ /' | awk '
+  tmux -S "$home/run/tmux" capture-pane -p -t panel | sed -E 's/^▌/ /' | awk '
     /^  [^ ]+ .*  +[^ ]+$/ {
       linea = $0
       sub(/^  [^ ]+ /, "", linea)
@@ -39,9 +39,9 @@ en_la_terminal() {
 }
 # Those in sight on the desktop; the terminal is high enough for all.
 dicen_lo_mismo() {
-  en_el_escritorio >"$casa/escritorio" && en_la_terminal >"$casa/terminal" &&
-    [ "$(wc -l <"$casa/escritorio")" -ge 7 ] &&
-    diff "$casa/escritorio" <(head -n "$(wc -l <"$casa/escritorio")" "$casa/terminal") >"$casa/distinto"
+  en_el_escritorio >"$home/escritorio" && en_la_terminal >"$home/terminal" &&
+    [ "$(wc -l <"$home/escritorio")" -ge 7 ] &&
+    diff "$home/escritorio" <(head -n "$(wc -l <"$home/escritorio")" "$home/terminal") >"$home/distinto"
 }
 
 # las_dos_caras LANGUAGE
@@ -51,8 +51,8 @@ las_dos_caras() {
   lector
   zorve
   muestra
-  tmux -f /dev/null -S "$casa/run/tmux" new-session -d -s panel -x 120 -y 50 "$bin/zorvectl panel"
-  hijos+=("$(tmux -S "$casa/run/tmux" display-message -p -t panel '#{pid}')")
+  tmux -f /dev/null -S "$home/run/tmux" new-session -d -s panel -x 120 -y 50 "$bin/zorvectl panel"
+  hijos+=("$(tmux -S "$home/run/tmux" display-message -p -t panel '#{pid}')")
   espera dicen_lo_mismo
 }
 
@@ -62,7 +62,7 @@ prueba_lasMismasFilasYPalabrasEnEspanol() { las_dos_caras es; }
 prueba_unaBusquedaDejaLasMismasFilas() {
   las_dos_caras en
   xdotool type surrog
-  tmux -S "$casa/run/tmux" send-keys -t panel -l surrog
+  tmux -S "$home/run/tmux" send-keys -t panel -l surrog
   espera quedan_las_mismas
 }
 quedan_las_mismas() { [ "$(en_el_escritorio | wc -l)" -eq 1 ] && diff <(en_el_escritorio) <(en_la_terminal); }

@@ -14,6 +14,6 @@ xdotool type complicated
 xdotool key Return
 espera dice_algo "The directory /srv/team/it's complicated no longer exists: the session cannot be opened there"
 panel_visible || fallo "the panel went"
-rm -rf "$casa/src/fuzz"
+rm -rf "$home/src/fuzz"
 xdotool key ctrl+a BackSpace ctrl+r
 espera dice_algo 'list item.*src/fuzz.*no longer exists'

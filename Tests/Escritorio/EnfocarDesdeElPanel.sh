@@ -2,7 +2,7 @@
 # Return on a running session brings its own window to the front, and the panel goes.
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
-en_tmux() { tmux -f /dev/null -S "$casa/run/tmux" "$@"; }
+en_tmux() { tmux -f /dev/null -S "$home/run/tmux" "$@"; }
 hay_cliente() { en_tmux list-clients | grep -q .; }
 con_teclado_una_xterm() { xprop -id "$(xdotool getactivewindow)" WM_CLASS | grep -q XTerm; }
 
@@ -13,14 +13,14 @@ con_sesiones_vivas() {
   agente
   export SHELL=/bin/sh
   preferencias '{"app.zorve.panelMostradoEnPrimerArranque":true,"zorve.avisoDeBandejaMostrado":true,"zorve.terminalElegida":"xterm"}'
-  arranca uno xterm -geometry 40x8+700+20 -e "$casa/bin/claude" uno
-  arranca dos xterm -geometry 40x8+700+220 -e "$casa/bin/claude" dos
-  en_tmux new-session -d -s trabajo "$casa/bin/claude tres"
+  arranca uno xterm -geometry 40x8+700+20 -e "$home/bin/claude" uno
+  arranca dos xterm -geometry 40x8+700+220 -e "$home/bin/claude" dos
+  en_tmux new-session -d -s trabajo "$home/bin/claude tres"
   hijos+=("$(en_tmux display-message -p '#{pid}')")
-  en_tmux split-window -t trabajo: "$casa/bin/claude cuatro"
-  en_tmux new-window -t trabajo: "$casa/bin/claude cinco"
-  en_tmux new-session -d -s otro "$casa/bin/claude seis"
-  arranca cliente xterm -geometry 60x20+700+420 -e tmux -S "$casa/run/tmux" attach -t trabajo
+  en_tmux split-window -t trabajo: "$home/bin/claude cuatro"
+  en_tmux new-window -t trabajo: "$home/bin/claude cinco"
+  en_tmux new-session -d -s otro "$home/bin/claude seis"
+  arranca cliente xterm -geometry 60x20+700+420 -e tmux -S "$home/run/tmux" attach -t trabajo
   for nombre in uno dos tres cuatro cinco seis; do
     numero=$((numero + 1))
     registra "$numero" "$nombre"

@@ -15,7 +15,7 @@ con_panel() {
 }
 # en_xterm N NAME: the running session N in an xterm, whose process is then in $terminal.
 en_xterm() {
-  arranca "$2" xterm -geometry "40x8+700+20" -e "$casa/bin/claude" "$2"
+  arranca "$2" xterm -geometry "40x8+700+20" -e "$home/bin/claude" "$2"
   terminal=$ultimo
   registra "$1" "$2"
 }
@@ -33,7 +33,7 @@ detenido() {
 termina_detenidos() { kill -CONT "${hijos[@]}" 2>/dev/null || :; }
 
 # dice_solo REGEX: one message is in the panel, and it matches.
-dice_solo() { dice_algo "alert \"$1" && [ "$(grep -c 'alert "' "$casa/arbol")" -eq 1 ]; }
+dice_solo() { dice_algo "alert \"$1" && [ "$(grep -c 'alert "' "$home/arbol")" -eq 1 ]; }
 sin_terminal_que_enfocar='The session is alive but has no controlling terminal'
 # responde: the panel takes keys at once, whatever it has begun.
 responde() {
@@ -48,8 +48,8 @@ prueba_siAcabaEntretantoSeDice() {
   con_panel
   en_xterm 1 acaba
   elige 1 acaba
-  kill "$(cat "$casa/teclas/acaba.pid")"
-  espera terminado "$(cat "$casa/teclas/acaba.pid")"
+  kill "$(cat "$home/teclas/acaba.pid")"
+  espera terminado "$(cat "$home/teclas/acaba.pid")"
   xdotool key Return
   espera dice_solo '.'
   panel_visible || fallo "the panel closed"
@@ -69,8 +69,8 @@ prueba_unMensajeNuevoSustituyeAlAnterior() {
   en_xterm 1 acaba
   sin_terminal 2 ajena
   elige 1 acaba
-  kill "$(cat "$casa/teclas/acaba.pid")"
-  espera terminado "$(cat "$casa/teclas/acaba.pid")"
+  kill "$(cat "$home/teclas/acaba.pid")"
+  espera terminado "$(cat "$home/teclas/acaba.pid")"
   xdotool key Return
   espera dice_solo '.'
   elige 2 ajena
@@ -80,10 +80,10 @@ prueba_unMensajeNuevoSustituyeAlAnterior() {
 
 prueba_conSuTerminalMuertaSeDiceQueNoHayQueEnfocar() {
   con_panel
-  arranca colgada xterm -geometry 40x8+700+220 -e sh -c "trap '' HUP; echo \$\$ >$casa/teclas/colgada.pid; exec sleep 300"
+  arranca colgada xterm -geometry 40x8+700+220 -e sh -c "trap '' HUP; echo \$\$ >$home/teclas/colgada.pid; exec sleep 300"
   terminal=$ultimo
   registra 3 colgada
-  hijos+=("$(cat "$casa/teclas/colgada.pid")")
+  hijos+=("$(cat "$home/teclas/colgada.pid")")
   kill "$terminal"
   espera terminado "$terminal"
   elige 3 colgada
@@ -94,9 +94,9 @@ prueba_conSuTerminalMuertaSeDiceQueNoHayQueEnfocar() {
 prueba_unServidorDeTmuxDetenidoSeDiceYElPanelResponde() {
   con_panel
   sin_terminal 2 ajena
-  tmux -f /dev/null -S "$casa/run/tmux" new-session -d -s t "$casa/bin/claude parada"
+  tmux -f /dev/null -S "$home/run/tmux" new-session -d -s t "$home/bin/claude parada"
   registra 4 parada
-  detenido "$(tmux -S "$casa/run/tmux" display-message -p '#{pid}')"
+  detenido "$(tmux -S "$home/run/tmux" display-message -p '#{pid}')"
   elige 4 parada
   xdotool key Return
   responde
@@ -107,7 +107,7 @@ prueba_unServidorDeTmuxDetenidoSeDiceYElPanelResponde() {
 prueba_unaTerminalConPestanasDetenidaSeDiceYDespuesVieneAlFrente() {
   con_panel
   sin_terminal 2 ajena
-  arranca sorda konsole -e "$casa/bin/claude" sorda
+  arranca sorda konsole -e "$home/bin/claude" sorda
   terminal=$ultimo
   registra 6 sorda
   detenido "$terminal"

@@ -3,12 +3,12 @@
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
 con_teclado_una_xterm() { xprop -id "$(xdotool getactivewindow)" WM_CLASS 2>/dev/null | grep -q XTerm; }
-llego() { grep -qx hola "$casa/escrito"; }
+llego() { grep -qx hola "$home/escrito"; }
 
 prueba_activateSinPermisoMuestraElPanelYDejaElTecladoDondeSeEscribe() {
   escritorio lista
   # shellcheck disable=SC2016 # the shell in the window expands it
-  arranca escribe xterm -geometry 40x8+40+700 -e sh -c 'while read -r linea; do echo "$linea" >>"$0"; done' "$casa/escrito"
+  arranca escribe xterm -geometry 40x8+40+700 -e sh -c 'while read -r linea; do echo "$linea" >>"$0"; done' "$home/escrito"
   espera con_teclado_una_xterm
   zorve
   gdbus call --session --dest com.sarnol.zorve --object-path /com/sarnol/zorve \
@@ -19,9 +19,9 @@ prueba_activateSinPermisoMuestraElPanelYDejaElTecladoDondeSeEscribe() {
   espera llego
 }
 
-# otro_con_el_nombre: a program that is not ours has the name and says in $casa/ajeno when it is called.
+# otro_con_el_nombre: a program that is not ours has the name and says in $home/ajeno when it is called.
 otro_con_el_nombre() {
-  cat >"$casa/ajeno.py" <<'FIN'
+  cat >"$home/ajeno.py" <<'FIN'
 import gi
 gi.require_version("Gio", "2.0")
 from gi.repository import Gio, GLib
@@ -36,17 +36,17 @@ bus.register_object("/com/sarnol/zorve", nodo.interfaces[0], llamada, None, None
 Gio.bus_own_name_on_connection(bus, "com.sarnol.zorve", Gio.BusNameOwnerFlags.NONE, lambda *_: print("owned", flush=True), None)
 GLib.MainLoop().run()
 FIN
-  /usr/bin/python3 "$casa/ajeno.py" >"$casa/ajeno" 2>&1 &
+  /usr/bin/python3 "$home/ajeno.py" >"$home/ajeno" 2>&1 &
   hijos+=($!)
-  espera grep -q owned "$casa/ajeno"
+  espera grep -q owned "$home/ajeno"
 }
 
 prueba_unNombreAjenoSeDiceYNoRecibeElPermisoDelClic() {
   escritorio lista
   otro_con_el_nombre
-  ! DESKTOP_STARTUP_ID=secreto_TIME1 "$bin/zorve" 2>"$casa/ajeno.err" || fallo "a start takes a stranger for itself"
-  grep -q 'another program has the name' "$casa/ajeno.err" || fallo "the start says: $(cat "$casa/ajeno.err")"
-  ! grep -q called "$casa/ajeno" || fallo "the stranger was given the leave"
+  ! DESKTOP_STARTUP_ID=secreto_TIME1 "$bin/zorve" 2>"$home/ajeno.err" || fallo "a start takes a stranger for itself"
+  grep -q 'another program has the name' "$home/ajeno.err" || fallo "the start says: $(cat "$home/ajeno.err")"
+  ! grep -q called "$home/ajeno" || fallo "the stranger was given the leave"
 }
 
 casos "$@"

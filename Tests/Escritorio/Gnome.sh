@@ -46,10 +46,10 @@ mando click
 espera panel_cerrado
 
 agente
-arranca uno foot "$casa/bin/claude" uno
+arranca uno foot "$home/bin/claude" uno
 uno_pid=$ultimo
 espera tiene_ventana "$uno_pid"
-arranca dos foot "$casa/bin/claude" dos
+arranca dos foot "$home/bin/claude" dos
 dos_pid=$ultimo
 espera tiene_el_teclado "$dos_pid"
 registra 11 uno
@@ -100,7 +100,7 @@ ajustes_en_su_marco() {
   caja=$(cambiado 1280x760+0+33) || return 1
   IFS='x+' read -r ancho alto _ <<<"$caja"
   [ "$ancho" -ge 618 ] && [ "$ancho" -le 656 ] && [ "$alto" -ge 496 ] && [ "$alto" -le 534 ] || return 1
-  [ "$(convert "$casa/foto.png" -crop "$caja" +repage -alpha set -fuzz 1% -transparent white -alpha extract -negate \
+  [ "$(convert "$home/foto.png" -crop "$caja" +repage -alpha set -fuzz 1% -transparent white -alpha extract -negate \
     -format '%[fx:round(mean*w*h)]' info:)" -lt 50 ]
 }
 espera ajustes_en_su_marco

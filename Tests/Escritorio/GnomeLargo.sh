@@ -13,15 +13,15 @@ agente
 # abre TERMINAL NAME: a window of it, seen, with the stand-in.
 abre() {
   base
-  "$bin/zorve-terminal" open "$1" "$casa" "'$casa/bin/claude' $2" || fallo "$1 does not open"
-  espera test -s "$casa/teclas/$2.pid"
+  "$bin/zorve-terminal" open "$1" "$home" "'$home/bin/claude' $2" || fallo "$1 does not open"
+  espera test -s "$home/teclas/$2.pid"
   espera cambiado 1280x760+0+33
   base
 }
 # cierra NAME: what led the stand-in's terminal device ends.
 cierra() {
-  kill -HUP "$(ps -o sid= -p "$(cat "$casa/teclas/$1.pid")" | tr -d ' ')"
-  rm "$casa/teclas/$1.pid"
+  kill -HUP "$(ps -o sid= -p "$(cat "$home/teclas/$1.pid")" | tr -d ' ')"
+  rm "$home/teclas/$1.pid"
 }
 enfocables() { "$bin/zorvectl" terminals --json | jq -r '.terminales[] | select(.instalada and .puedeEnfocar).identificador'; }
 
@@ -44,14 +44,14 @@ for terminal in "${todas[@]}"; do
   mando key super+home
 done
 
-tmux -f /dev/null -S "$casa/run/tmux" new-session -d -s trabajo "$casa/bin/claude pane1"
-hijos+=("$(tmux -S "$casa/run/tmux" display-message -p '#{pid}')")
-tmux -S "$casa/run/tmux" new-window -t trabajo: "$casa/bin/claude pane2"
-arranca cliente foot tmux -S "$casa/run/tmux" attach -t trabajo
+tmux -f /dev/null -S "$home/run/tmux" new-session -d -s trabajo "$home/bin/claude pane1"
+hijos+=("$(tmux -S "$home/run/tmux" display-message -p '#{pid}')")
+tmux -S "$home/run/tmux" new-window -t trabajo: "$home/bin/claude pane2"
+arranca cliente foot tmux -S "$home/run/tmux" attach -t trabajo
 espera tiene_el_teclado "$ultimo"
 abre foot delante
 for cual in 1 2; do
-  espera test -s "$casa/teclas/pane$cual.pid"
+  espera test -s "$home/teclas/pane$cual.pid"
   enfoca tmux "pane$cual"
   llega_en_gnome "pane$cual" t
 done

@@ -10,7 +10,7 @@ done
 export SHELL=/bin/sh
 escritorio_gnome vacia ubuntu-appindicators@ubuntu.com
 # GNOME Terminal names its sessions only with its search provider on.
-printf '[org/gnome/terminal/legacy]\nshell-integration-enabled=true\n' >>"$casa/.config/glib-2.0/settings/keyfile"
+printf '[org/gnome/terminal/legacy]\nshell-integration-enabled=true\n' >>"$home/.config/glib-2.0/settings/keyfile"
 agente
 base
 zorve
@@ -20,7 +20,7 @@ read -r icono_x icono_y <<<"$(centro_de "$(cambiado "$barra")")"
 # abre TERMINAL N NAME: a window of it, seen, with the stand-in as the running session N.
 abre() {
   base
-  "$bin/zorve-terminal" open "$1" "$casa" "'$casa/bin/claude' $3" || fallo "$1 does not open"
+  "$bin/zorve-terminal" open "$1" "$home" "'$home/bin/claude' $3" || fallo "$1 does not open"
   registra "$2" "$3"
   espera cambiado 1280x760+0+33
   base

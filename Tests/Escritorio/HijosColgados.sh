@@ -14,19 +14,19 @@ con_colgado() {
   preferencias '{"app.zorve.panelMostradoEnPrimerArranque":true,"zorve.avisoDeBandejaMostrado":true,"zorve.terminalElegida":"xterm"}'
   sleep 600 &
   hijos+=($!)
-  arranca una xterm -geometry 40x8+700+20 -e "$casa/bin/claude" una
+  arranca una xterm -geometry 40x8+700+20 -e "$home/bin/claude" una
   registra 1 una
   apunta 2 acabada 4194304
   zorve_trazado -e trace=execve -P "$1" -e inject=execve:delay_exit=600s
 }
-cuelga() { grep -q 'execve("'"$1"'"' "$casa/trazas"; }
+cuelga() { grep -q 'execve("'"$1"'"' "$home/trazas"; }
 # Whoever hangs, and the tracer that holds it, end with the test.
 suelta() {
   local cada
-  for cada in $(pgrep -f "strace -D -f -qq -o $casa/trazas" || :); do kill -9 "$cada" 2>/dev/null || :; done
+  for cada in $(pgrep -f "strace -D -f -qq -o $home/trazas" || :); do kill -9 "$cada" 2>/dev/null || :; done
   while read -r cada; do
     [ "$cada" = "$zorve_pid" ] || kill -9 "$cada" 2>/dev/null || :
-  done < <(awk '{ print $1 }' "$casa/trazas" | sort -u)
+  done < <(awk '{ print $1 }' "$home/trazas" | sort -u)
 }
 en_menos_de_dos_segundos() {
   local fin=$((SECONDS + 2))
@@ -87,11 +87,11 @@ prueba_unaSenalEnCualquierMomentoDejaLosAjustesEnteros() {
     sleep "0.$(printf '%02d' "$cada")"
     kill -TERM "$zorve_pid"
     en_menos_de_dos_segundos
-    jq -e '.ajena == [1,2.5]' "$casa/.config/com.sarnol.zorve/preferences.json" >/dev/null ||
+    jq -e '.ajena == [1,2.5]' "$home/.config/com.sarnol.zorve/preferences.json" >/dev/null ||
       fallo "the settings are damaged after signal $cada"
   done
   "$bin/zorvectl" choose xterm >/dev/null
-  [ "$(find "$casa/.config/com.sarnol.zorve" -type f | wc -l)" -eq 2 ] || fallo "files were left beside the settings"
+  [ "$(find "$home/.config/com.sarnol.zorve" -type f | wc -l)" -eq 2 ] || fallo "files were left beside the settings"
 }
 
 casos "$@"

@@ -5,7 +5,7 @@
 # shellcheck source=Tests/Escritorio/comun-gustos.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun-gustos.sh"
 caja='Open Zorve at login'
-entrada=$casa/.config/autostart/com.sarnol.zorve.desktop
+entrada=$home/.config/autostart/com.sarnol.zorve.desktop
 encendida() { dice "check box \"$caja\" [focusable checked]"; }
 apagada() { dice "check box \"$caja\" [focusable]"; }
 
@@ -15,7 +15,7 @@ abre_ajustes() {
   espera ajustes
 }
 con_ajustes() {
-  export XDG_CONFIG_DIRS=$casa/nada
+  export XDG_CONFIG_DIRS=$home/nada
   escritorio lista
   lector
   zorve
@@ -34,7 +34,7 @@ sale() {
 arrancado() {
   local cada
   for cada in $(pgrep -x zorve); do
-    ! tr '\0' '\n' 2>/dev/null <"/proc/$cada/environ" | grep -qxF "HOME=$casa" || return 0
+    ! tr '\0' '\n' 2>/dev/null <"/proc/$cada/environ" | grep -qxF "HOME=$home" || return 0
   done
   return 1
 }
@@ -55,7 +55,7 @@ prueba_apagarloQuitaLaEntrada() {
 # A file stands where the folder should be.
 prueba_loQueNoSePuedeEscribirSeDiceYLaCajaMuestraLoCierto() {
   con_ajustes
-  : >"$casa/.config/autostart"
+  : >"$home/.config/autostart"
   pulsa_opcion "$caja"
   espera dice_algo 'alert "Could not change the launch-at-login setting: .*\."$'
   espera apagada
@@ -63,10 +63,10 @@ prueba_loQueNoSePuedeEscribirSeDiceYLaCajaMuestraLoCierto() {
 
 prueba_unLogroBorraElFalloAnterior() {
   con_ajustes
-  : >"$casa/.config/autostart"
+  : >"$home/.config/autostart"
   pulsa_opcion "$caja"
   espera dice_algo 'alert "Could not change the launch-at-login setting: '
-  rm "$casa/.config/autostart"
+  rm "$home/.config/autostart"
   pulsa_opcion "$caja"
   espera encendida
   espera no dice_algo 'alert "'
@@ -95,9 +95,9 @@ prueba_sinEntradaUnaSesionNuevaNoLoArranca() {
   pulsa_opcion "$caja"
   espera apagada
   sale
-  printf '[Desktop Entry]\nType=Application\nName=Otra\nExec=touch %s\n' "$casa/otra" >"${entrada%/*}/otra.desktop"
+  printf '[Desktop Entry]\nType=Application\nName=Otra\nExec=touch %s\n' "$home/otra" >"${entrada%/*}/otra.desktop"
   dex --autostart
-  espera test -e "$casa/otra"
+  espera test -e "$home/otra"
   ! arrancado || fallo "a session without the entry starts it"
 }
 

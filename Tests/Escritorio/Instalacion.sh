@@ -6,12 +6,12 @@ export XDG_DATA_DIRS
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
 # shellcheck source=Tests/Escritorio/comun-gustos.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun-gustos.sh"
-prefijo=$casa/instalado
+prefijo=$home/instalado
 XDG_DATA_DIRS=$prefijo/share:/usr/share
-cmake --install "$bin/.." --prefix "$prefijo" >"$casa/instala.out"
+cmake --install "$bin/.." --prefix "$prefijo" >"$home/instala.out"
 entrada=$prefijo/share/applications/com.sarnol.zorve.desktop
-desktop-file-validate "$entrada" >"$casa/valida.out" || fallo "the desktop entry: $(cat "$casa/valida.out")"
-[ ! -s "$casa/valida.out" ] || fallo "the desktop entry: $(cat "$casa/valida.out")"
+desktop-file-validate "$entrada" >"$home/valida.out" || fallo "the desktop entry: $(cat "$home/valida.out")"
+[ ! -s "$home/valida.out" ] || fallo "the desktop entry: $(cat "$home/valida.out")"
 for icono in scalable/apps/com.sarnol.zorve symbolic/apps/com.sarnol.zorve-symbolic; do
   [ -s "$prefijo/share/icons/hicolor/$icono.svg" ] || fallo "no icon $icono"
 done
@@ -45,7 +45,7 @@ version=$("$prefijo/bin/zorvectl" --version | grep -oE '[0-9]+\.[0-9]+\.[0-9]+')
 espera dice "label \"Zorve $version\" [focusable]"
 
 # Another prefix with a character that the entry cannot hold is refused.
-! cmake --install "$bin/.." --prefix "$casa/a\$b" >/dev/null 2>"$casa/rechazo" || fallo "a prefix with a dollar was taken"
-grep -q 'Choose another --prefix' "$casa/rechazo" || fallo "the refusal does not say what to do"
+! cmake --install "$bin/.." --prefix "$home/a\$b" >/dev/null 2>"$home/rechazo" || fallo "a prefix with a dollar was taken"
+grep -q 'Choose another --prefix' "$home/rechazo" || fallo "the refusal does not say what to do"
 xdotool key ctrl+q
 espera terminado "$pid"

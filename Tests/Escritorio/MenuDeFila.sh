@@ -42,7 +42,7 @@ prueba_laTeclaDelMenuYMayusculasF10AbrenElDeLaElegida() {
   espera portapapeles_es 00000003-5e55-4000-8000-000000000003
   xdotool key shift+F10
   elige_en_el_menu Down Down Return
-  espera portapapeles_es "cd '$casa/trabajo/señales' && claude -r '00000003-5e55-4000-8000-000000000003'"
+  espera portapapeles_es "cd '$home/trabajo/señales' && claude -r '00000003-5e55-4000-8000-000000000003'"
   xdotool key shift+F10
   elige_en_el_menu Escape
   panel_visible || fallo "the panel went with the menu"
@@ -50,22 +50,22 @@ prueba_laTeclaDelMenuYMayusculasF10AbrenElDeLaElegida() {
 
 prueba_elDirectorioSePideAlGestorDeArchivos() {
   empieza
-  arranca gestor-de-archivos "$aqui/gestor-de-archivos.py" "$casa/pedidos"
+  arranca gestor-de-archivos "$aqui/gestor-de-archivos.py" "$home/pedidos"
   espera tiene_nombre org.freedesktop.FileManager1
   xdotool key Menu
   elige_en_el_menu End Return
-  espera grep -qx "file://$casa/src/zorve" "$casa/pedidos"
+  espera grep -qx "file://$home/src/zorve" "$home/pedidos"
 }
 
-oye() { grep -qxF "$1" "$casa/oidos.out"; }
+oye() { grep -qxF "$1" "$home/oidos.out"; }
 oye_otra_fila() {
   xdotool key Down
   sleep 0.2
-  grep -q 'list item' "$casa/oidos.out"
+  grep -q 'list item' "$home/oidos.out"
 }
 
 prueba_elMenuHablaEspanolYLoLeeUnLector() {
-  hogar lista
+  home lista
   preferencias '{"zorve.idioma":"es","app.zorve.panelMostradoEnPrimerArranque":true,"zorve.avisoDeBandejaMostrado":true}'
   servidor
   bus

@@ -6,9 +6,9 @@
 sesion() {
   local id
   id=$(printf '%08d-5e55-4000-8000-%012d' "$1" "$1")
-  printf '{"display":"%s","timestamp":%d000,"project":"/srv/x","sessionId":"%s"}\n' "$2" $(($(date +%s) - $1)) "$id" >>"$casa/.claude/history.jsonl"
-  mkdir -p "$casa/.claude/projects/-srv-x"
-  printf '{"type":"user","cwd":"/srv/x"}\n' >"$casa/.claude/projects/-srv-x/$id.jsonl"
+  printf '{"display":"%s","timestamp":%d000,"project":"/srv/x","sessionId":"%s"}\n' "$2" $(($(date +%s) - $1)) "$id" >>"$home/.claude/history.jsonl"
+  mkdir -p "$home/.claude/projects/-srv-x"
+  printf '{"type":"user","cwd":"/srv/x"}\n' >"$home/.claude/projects/-srv-x/$id.jsonl"
 }
 # con_teclado_internacional INPUT_METHOD: a keyboard that has these keys, so that none is put in its place for one press.
 con_teclado_internacional() {

@@ -5,20 +5,20 @@
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
 # shellcheck source=Tests/Escritorio/comun-gustos.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun-gustos.sh"
-archivo=$casa/.config/com.sarnol.zorve/preferences.json
+archivo=$home/.config/com.sarnol.zorve/preferences.json
 abre_ajustes() {
   muestra
   xdotool key ctrl+comma
   espera ajustes
 }
-intacto() { cmp "$casa/antes" "$archivo" || fallo "the settings were overwritten"; }
+intacto() { cmp "$home/antes" "$archivo" || fallo "the settings were overwritten"; }
 
 # con_ajustes_de TEXT: the program over this file.
 con_ajustes_de() {
   escritorio lista
   lector
   preferencias "$1"
-  cp "$archivo" "$casa/antes"
+  cp "$archivo" "$home/antes"
   con_pocas_terminales
   abre_ajustes
 }
@@ -64,14 +64,14 @@ prueba_arregladosAManoSeLeenAlVolver() {
 # Where nothing can be written, not even by root.
 prueba_dondeNoSePuedeEscribirSeDiceYNadaSePierde() {
   con_ajustes_de '{"zorve.terminalElegida":"kitty","zorve.avisoDeBandejaMostrado":true,"app.zorve.panelMostradoEnPrimerArranque":true}'
-  mv "$casa/.config/com.sarnol.zorve" "$casa/.config/aparte"
-  ln -s /proc/self "$casa/.config/com.sarnol.zorve"
+  mv "$home/.config/com.sarnol.zorve" "$home/.config/aparte"
+  ln -s /proc/self "$home/.config/com.sarnol.zorve"
   pulsa_opcion Terminal
   espera dice 'radio button "kitty" [focusable checked]'
   pulsa_opcion xterm
   espera dice_algo 'alert ".*preferences.json'
   espera no dice 'radio button "xterm" [focusable checked]'
-  cmp "$casa/antes" "$casa/.config/aparte/preferences.json" || fallo "the settings were lost"
+  cmp "$home/antes" "$home/.config/aparte/preferences.json" || fallo "the settings were lost"
 }
 
 casos "$@"

@@ -7,14 +7,14 @@
 
 primera_vez() {
   escritorio lista
-  rm "$casa/.config/com.sarnol.zorve/preferences.json"
+  rm "$home/.config/com.sarnol.zorve/preferences.json"
   lector
   zorve
   espera panel_visible
 }
 sin_bandeja='alert "This desktop has no tray'
 avisa() { dice_algo "$sin_bandeja"; }
-callado_con_lista() { dice_algo 'list item' && ! grep -E "$sin_bandeja" "$casa/arbol"; }
+callado_con_lista() { dice_algo 'list item' && ! grep -E "$sin_bandeja" "$home/arbol"; }
 cierra() {
   xdotool key Escape
   espera no panel_visible

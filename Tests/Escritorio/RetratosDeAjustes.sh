@@ -12,10 +12,10 @@ mal=0
 
 # fotografia NAME WINDOW: as it is now, in full size and small.
 fotografia() {
-  import -silent -window "$2" "$casa/grande.png"
-  convert "$casa/grande.png" -strip -resize 155x115! "$casa/$1.png"
+  import -silent -window "$2" "$home/grande.png"
+  convert "$home/grande.png" -strip -resize 155x115! "$home/$1.png"
 }
-distancia() { compare -metric RMSE "$casa/$1.png" "$guardados/ajustes-$1.png" null: 2>&1 | sed -E 's/.*\((.*)\)/\1/' || :; }
+distancia() { compare -metric RMSE "$home/$1.png" "$guardados/ajustes-$1.png" null: 2>&1 | sed -E 's/.*\((.*)\)/\1/' || :; }
 cerca() { awk -v d="$1" -v p="$peor" 'BEGIN { exit !(d ~ /^[0-9]/ && d <= p) }'; }
 
 # retrato NAME [WINDOW]: the settings as they are now, or that window. A caret comes and goes: what differs is looked at
@@ -25,9 +25,9 @@ retrato() {
   ventana=${2:-$(ajustes)}
   sleep 0.3
   fotografia "$1" "$ventana"
-  [ -z "${RETRATOS_EN:-}" ] || cp "$casa/grande.png" "$RETRATOS_EN/ajustes-$1.png"
+  [ -z "${RETRATOS_EN:-}" ] || cp "$home/grande.png" "$RETRATOS_EN/ajustes-$1.png"
   if [ "${RETRATOS:-}" = guarda ]; then
-    cp "$casa/$1.png" "$guardados/ajustes-$1.png"
+    cp "$home/$1.png" "$guardados/ajustes-$1.png"
     return
   fi
   for i in 1 2 3 4 5 6 7 8 9; do
@@ -70,7 +70,7 @@ retrato foco-es
 
 gsettings set org.gnome.desktop.a11y.interface high-contrast true
 retrato contraste-es
-: >"$casa/.config/autostart"
+: >"$home/.config/autostart"
 pulsa_opcion General
 pulsa_opcion 'Abrir Zorve al iniciar sesión'
 espera dice_algo 'alert "No se pudo'

@@ -14,11 +14,11 @@ con_ajustes() {
   wtype -M ctrl , -m ctrl
   espera ajustes_con_teclado_en_sway
 }
-idioma_es() { [ "$(jq -r '."zorve.idioma"' "$casa/.config/com.sarnol.zorve/preferences.json")" = "$1" ]; }
+idioma_es() { [ "$(jq -r '."zorve.idioma"' "$home/.config/com.sarnol.zorve/preferences.json")" = "$1" ]; }
 
 prueba_elPanelVienePorElTestigoDeQuienLlama() {
   con_panel
-  espera grep -q 'xdg_activation_v1[@#].*activate("el-de-quien-llama"' "$casa/zorve.err"
+  espera grep -q 'xdg_activation_v1[@#].*activate("el-de-quien-llama"' "$home/zorve.err"
   panel_en_sway | jq -e '.type == "floating_con"' >/dev/null || fallo "the panel does not float"
 }
 
@@ -52,14 +52,14 @@ prueba_controlMayusculasWNoCierraLosAjustesYControlWSi() {
 
 prueba_unaSesionSeAbreEnUnaTerminalConTestigoPropio() {
   escritorio_sway lista 'default_floating_border none' 'focus_on_window_activation focus'
-  mkdir -p "$casa/bin" "$casa/src/bench/parser"
-  cat >"$casa/bin/foot" <<FIN
+  mkdir -p "$home/bin" "$home/src/bench/parser"
+  cat >"$home/bin/foot" <<FIN
 #!/bin/sh
-printf '%s\n' "\$XDG_ACTIVATION_TOKEN" >"$casa/testigo"
+printf '%s\n' "\$XDG_ACTIVATION_TOKEN" >"$home/testigo"
 exec /usr/bin/foot "\$@"
 FIN
-  chmod +x "$casa/bin/foot"
-  export PATH=$casa/bin:$PATH
+  chmod +x "$home/bin/foot"
+  export PATH=$home/bin:$PATH
   "$bin/zorvectl" choose foot
   teclado
   zorve
@@ -68,7 +68,7 @@ FIN
   wtype "benchmark" -s 300 -k Return
   espera con_teclado_en_sway foot
   espera no panel_en_sway
-  [ -n "$(cat "$casa/testigo")" ] || fallo "the terminal got no token"
+  [ -n "$(cat "$home/testigo")" ] || fallo "the terminal got no token"
 }
 
 prueba_controlQSale() {

@@ -77,9 +77,9 @@ prueba_refrescarTraeUnaSesionNueva() {
   con_panel
   espera copiado_es 1
   printf '{"display":"Completely new","timestamp":%d000,"project":"/srv/x","sessionId":"%s"}\n' \
-    $(($(date +%s) + 5)) "$id" >>"$casa/.claude/history.jsonl"
-  mkdir -p "$casa/.claude/projects/-srv-x"
-  printf '{"type":"user","cwd":"/srv/x"}\n' >"$casa/.claude/projects/-srv-x/$id.jsonl"
+    $(($(date +%s) + 5)) "$id" >>"$home/.claude/history.jsonl"
+  mkdir -p "$home/.claude/projects/-srv-x"
+  printf '{"type":"user","cwd":"/srv/x"}\n' >"$home/.claude/projects/-srv-x/$id.jsonl"
   xdotool type completely
   xdotool key --clearmodifiers ctrl+r
   espera se_copia "$id"

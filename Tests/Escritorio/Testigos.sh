@@ -5,9 +5,9 @@
 
 escuchado() {
   xprop -root -f ZORVE_PRUEBA 8s -set ZORVE_PRUEBA si
-  grep -q ZORVE_PRUEBA "$casa/avisos.out"
+  grep -q ZORVE_PRUEBA "$home/avisos.out"
 }
-avisados() { grep -c 'message_type.*_NET_STARTUP_INFO_BEGIN' "$casa/avisos.out"; }
+avisados() { grep -c 'message_type.*_NET_STARTUP_INFO_BEGIN' "$home/avisos.out"; }
 
 prueba_unArranqueAnunciadoTerminaAlVerseElPanel() {
   escritorio lista
@@ -40,32 +40,32 @@ prueba_losAjustesVienenAlFrenteDeOtraVentana() {
 # con_terminal_espiada: a stand-in for the agent notes its environment, one for xterm its own token.
 con_terminal_espiada() {
   escritorio lista
-  mkdir -p "$casa/bin" "$casa/src/bench/parser"
-  cat >"$casa/bin/xterm" <<FIN
+  mkdir -p "$home/bin" "$home/src/bench/parser"
+  cat >"$home/bin/xterm" <<FIN
 #!/bin/sh
-printf '%s\n' "\$DESKTOP_STARTUP_ID" >"$casa/testigo"
+printf '%s\n' "\$DESKTOP_STARTUP_ID" >"$home/testigo"
 exec /usr/bin/xterm "\$@"
 FIN
-  printf '#!/bin/sh\nenv >"%s/entorno"\n' "$casa" >"$casa/bin/claude"
-  chmod +x "$casa/bin/xterm" "$casa/bin/claude"
-  export PATH=$casa/bin:$PATH SHELL=/bin/bash
+  printf '#!/bin/sh\nenv >"%s/entorno"\n' "$home" >"$home/bin/claude"
+  chmod +x "$home/bin/xterm" "$home/bin/claude"
+  export PATH=$home/bin:$PATH SHELL=/bin/bash
   "$bin/zorvectl" choose xterm
   zorve
   muestra
   xdotool type benchmark
   espera copiado_es 4
   xdotool key Return
-  espera test -s "$casa/entorno"
+  espera test -s "$home/entorno"
 }
 
 prueba_unaTerminalSabeElMomentoDeLaTecla() {
   con_terminal_espiada
-  grep -qE '^zorve-[0-9]+-[0-9]+-.*_TIME[1-9][0-9]*$' "$casa/testigo" || fallo "the terminal's token: $(cat "$casa/testigo")"
+  grep -qE '^zorve-[0-9]+-[0-9]+-.*_TIME[1-9][0-9]*$' "$home/testigo" || fallo "the terminal's token: $(cat "$home/testigo")"
 }
 
 prueba_laShellDeLaTerminalNoHeredaElTestigo() {
   con_terminal_espiada
-  ! grep -E '^(DESKTOP_STARTUP_ID|XDG_ACTIVATION_TOKEN)=' "$casa/entorno" || fallo "the shell inherited the token"
+  ! grep -E '^(DESKTOP_STARTUP_ID|XDG_ACTIVATION_TOKEN)=' "$home/entorno" || fallo "the shell inherited the token"
 }
 
 casos "$@"

@@ -8,8 +8,8 @@ chillon='#ff00ff'
 huecos() {
   local x y
   read -r x y < <(panel_en_sway | jq -r '"\(.rect.x + .window_rect.x) \(.rect.y + .window_rect.y)"')
-  grim -t ppm -g "$((x + 6)),$((y + 6)) 428x548" "$casa/panel.ppm"
-  convert "$casa/panel.ppm" -alpha set -fuzz 30% -transparent "$chillon" -alpha extract -negate \
+  grim -t ppm -g "$((x + 6)),$((y + 6)) 428x548" "$home/panel.ppm"
+  convert "$home/panel.ppm" -alpha set -fuzz 30% -transparent "$chillon" -alpha extract -negate \
     -format '%[fx:round(mean*w*h)]' info:
 }
 
@@ -32,9 +32,9 @@ recorre() {
   estado "nothing found" zzz
   estado "typing anew" -M ctrl a -m ctrl b
   estado "typing less" -k BackSpace
-  echo '{' >>"$casa/.claude/history.jsonl"
+  echo '{' >>"$home/.claude/history.jsonl"
   estado "band coming" -M ctrl r -m ctrl
-  sed -i '$d' "$casa/.claude/history.jsonl"
+  sed -i '$d' "$home/.claude/history.jsonl"
   estado "band going" -M ctrl r -m ctrl
   wtype -k Escape
   espera no panel_en_sway
@@ -48,7 +48,7 @@ sin_huecos() {
   zorve
   swaymsg output HEADLESS-1 resolution 1600x1400 scale "$escala" >/dev/null
   recorre
-  ! grep 'Binding loop' "$casa/zorve.err" || fallo "the views ask for their own sizes in a circle"
+  ! grep 'Binding loop' "$home/zorve.err" || fallo "the views ask for their own sizes in a circle"
 }
 
 prueba_aEscalaUnoNoHayHuecos() { sin_huecos 1; }

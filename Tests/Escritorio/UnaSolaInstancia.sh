@@ -39,9 +39,9 @@ prueba_elBusNoOfreceNadaMas() {
 prueba_siElPrimeroNoContestaElSegundoLoDice() {
   con_una
   kill -STOP "$zorve_pid"
-  ! segundo 2>"$casa/segundo.err" || fallo "a second start takes a first one that hangs for shown"
+  ! segundo 2>"$home/segundo.err" || fallo "a second start takes a first one that hangs for shown"
   kill -CONT "$zorve_pid"
-  grep -q 'does not answer' "$casa/segundo.err" || fallo "the second start says: $(cat "$casa/segundo.err")"
+  grep -q 'does not answer' "$home/segundo.err" || fallo "the second start says: $(cat "$home/segundo.err")"
 }
 
 prueba_noTomaArgumentos() {

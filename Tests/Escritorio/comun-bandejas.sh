@@ -17,7 +17,7 @@ hay_icono_xembed() { [ -n "$(icono_xembed)" ]; }
 # barra_sn EDGE [DARK]: a bar whose one thing is a StatusNotifier host. EDGE is xfce4-panel's number of an edge (6 the
 # top, 8 the bottom), DARK true or false.
 barra_sn() {
-  local canal=$casa/.config/xfce4/xfconf/xfce-perchannel-xml
+  local canal=$home/.config/xfce4/xfconf/xfce-perchannel-xml
   mkdir -p "$canal"
   cat >"$canal/xfce4-panel.xml" <<FIN
 <?xml version="1.0" encoding="UTF-8"?>

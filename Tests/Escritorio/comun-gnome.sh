@@ -14,7 +14,7 @@ if [ "$(id -u)" -eq 0 ]; then exec setpriv --reuid 65534 --regid 65534 --clear-g
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
 uuid=zorve-windows@sarnol.com
-extensiones=$casa/.local/share/gnome-shell/extensions
+extensiones=$home/.local/share/gnome-shell/extensions
 
 version_de_gnome() { gnome-shell --version | grep -oE '[0-9]+' | head -n 1; }
 
@@ -28,11 +28,11 @@ instala_la_extension() {
 # escritorio_gnome KIND [EXTENSION...]: a whole session over a made-up home with these extensions on.
 escritorio_gnome() {
   local encendidas
-  hogar "$1"
+  home "$1"
   shift
   encendidas=$(printf "'%s'," "$@")
-  mkdir -p "$casa/.config/glib-2.0/settings"
-  cat >"$casa/.config/glib-2.0/settings/keyfile" <<FIN
+  mkdir -p "$home/.config/glib-2.0/settings"
+  cat >"$home/.config/glib-2.0/settings/keyfile" <<FIN
 [org/gnome/shell]
 welcome-dialog-last-shown-version='99'
 disable-user-extensions=false
@@ -53,16 +53,16 @@ FIN
   export DBUS_SYSTEM_BUS_ADDRESS=$DBUS_SESSION_BUS_ADDRESS
   unset DISPLAY
   arranca gnome gnome-shell --headless --virtual-monitor 1280x800 --wayland
-  espera grep -q 'Shell started at' "$casa/gnome.err" "$casa/gnome.out"
-  WAYLAND_DISPLAY=$(sed -n "s/.*Using Wayland display name '\(.*\)'.*/\1/p" "$casa"/gnome.{out,err} | head -n 1)
-  DISPLAY=$(sed -n 's/.*Using public X11 display \(:[0-9]*\).*/\1/p' "$casa"/gnome.{out,err} | head -n 1)
-  XAUTHORITY=$(find "$casa/run" -name '.mutter-Xwaylandauth.*' | head -n 1)
+  espera grep -q 'Shell started at' "$home/gnome.err" "$home/gnome.out"
+  WAYLAND_DISPLAY=$(sed -n "s/.*Using Wayland display name '\(.*\)'.*/\1/p" "$home"/gnome.{out,err} | head -n 1)
+  DISPLAY=$(sed -n 's/.*Using public X11 display \(:[0-9]*\).*/\1/p' "$home"/gnome.{out,err} | head -n 1)
+  XAUTHORITY=$(find "$home/run" -name '.mutter-Xwaylandauth.*' | head -n 1)
   export WAYLAND_DISPLAY DISPLAY XAUTHORITY
   dbus-update-activation-environment WAYLAND_DISPLAY DISPLAY XAUTHORITY XDG_CURRENT_DESKTOP XDG_SESSION_TYPE HOME \
     XDG_CONFIG_HOME XDG_DATA_HOME XDG_RUNTIME_DIR GSETTINGS_BACKEND LANG NO_AT_BRIDGE LIBGL_ALWAYS_SOFTWARE
-  coproc mando_de_gnome { exec python3 "$aqui/gnome.py" 2>"$casa/mando.err"; }
+  coproc mando_de_gnome { exec python3 "$aqui/gnome.py" 2>"$home/mando.err"; }
   hijos+=("$mando_de_gnome_PID")
-  responde || fallo "no driver: $(cat "$casa/mando.err")"
+  responde || fallo "no driver: $(cat "$home/mando.err")"
   fuera_del_resumen
   # A first key makes the seat's keyboard; the pointer out of the way.
   mando key shift
@@ -83,8 +83,8 @@ mando() {
 
 # Asked of the shell: newer ones leave X11 programs without an answer while a Wayland window has the keyboard.
 portapapeles_es() {
-  mando paste "$casa/copiado"
-  [ "$(cat "$casa/copiado")" = "$1" ]
+  mando paste "$home/copiado"
+  [ "$(cat "$home/copiado")" = "$1" ]
 }
 
 del_shell() {
@@ -103,18 +103,18 @@ ventanas_de() {
 tiene_ventana() { ventanas_de "$1" | grep -q '(uint32'; }
 tiene_el_teclado() { ventanas_de "$1" | grep -q 'true)'; }
 
-# foto: the whole screen in $casa/foto.png.
-foto() { mando shot "$casa/foto.png"; }
+# foto: the whole screen in $home/foto.png.
+foto() { mando shot "$home/foto.png"; }
 # pixeles COLOUR AREA: how many of AREA (WxH+X+Y) are of about this colour on a new picture.
 pixeles() {
   foto
-  convert "$casa/foto.png" -crop "$2" +repage -alpha set -fuzz 6% -transparent "$1" -alpha extract -negate \
+  convert "$home/foto.png" -crop "$2" +repage -alpha set -fuzz 6% -transparent "$1" -alpha extract -negate \
     -format '%[fx:round(mean*w*h)]' info:
 }
 
 # enfoca TERMINAL NAME: the helper brings that session of the stand-in to the front.
 enfoca() {
-  "$bin/zorve-terminal" focus "$1" "$(ps -o tty= -p "$(cat "$casa/teclas/$2.pid")" | tr -d ' ')"
+  "$bin/zorve-terminal" focus "$1" "$(ps -o tty= -p "$(cat "$home/teclas/$2.pid")" | tr -d ' ')"
 }
 # llega_en_gnome NAME KEY: a key press arrives at that session and at no other.
 llega_en_gnome() {
@@ -128,7 +128,7 @@ llega_en_gnome() {
 # base: what later pictures are compared with, once nothing moves.
 base() { espera base_quieta; }
 base_quieta() {
-  mando shot "$casa/base.png"
+  mando shot "$home/base.png"
   sleep 0.7
   ! cambiado "$pantalla"
 }
@@ -137,7 +137,7 @@ pantalla=1280x800+0+0
 cambiado() {
   local area=$1 caja
   foto
-  caja=$(convert "$casa/base.png" "$casa/foto.png" -crop "$area" +repage -compose difference -composite \
+  caja=$(convert "$home/base.png" "$home/foto.png" -crop "$area" +repage -compose difference -composite \
     -threshold 4% -trim -format '%wx%h%O' info: 2>/dev/null) || return 1
   [[ $caja != 1x1* && $caja != *-1* ]] || return 1
   awk -F'[x+]' -v o="$area" 'BEGIN { split(o, a, /[x+]/) } { printf "%dx%d+%d+%d\n", $1, $2, $3 + a[3], $4 + a[4] }' <<<"$caja"
@@ -150,11 +150,11 @@ centro_de() { awk -F'[x+]' '{ print int($3 + $1 / 2), int($4 + $2 / 2) }' <<<"$1
 # In place of comun.sh's: what the shell said, and with ZORVE_FOTOS the pictures.
 cuenta_lo_visto() {
   echo "--- what the shell wrote" >&2
-  grep -vE 'libmutter|accountsservice|xkbcomp|^$' "$casa/gnome.err" | tail -n 20 >&2 || :
+  grep -vE 'libmutter|accountsservice|xkbcomp|^$' "$home/gnome.err" | tail -n 20 >&2 || :
   echo "--- what zorve wrote" >&2
-  tail -n 20 "$casa"/zorve.err >&2 || :
+  tail -n 20 "$home"/zorve.err >&2 || :
   if [ -n "${ZORVE_FOTOS:-}" ]; then
     foto || :
-    cp "$casa"/*.png "$ZORVE_FOTOS" || :
+    cp "$home"/*.png "$ZORVE_FOTOS" || :
   fi
 }

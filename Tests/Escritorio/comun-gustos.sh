@@ -17,18 +17,18 @@ lector() {
   gdbus call --session --dest org.a11y.Bus --object-path /org/a11y/bus \
     --method org.freedesktop.DBus.Properties.Set org.a11y.Status IsEnabled '<true>' >/dev/null
 }
-arbol() { "$aqui/arbol.py" zorve >"$casa/arbol"; }
+arbol() { "$aqui/arbol.py" zorve >"$home/arbol"; }
 # dice LINE: the tree holds this line, at any depth.
-dice() { arbol && sed 's/^ *//' "$casa/arbol" | grep -xF -- "$1"; }
+dice() { arbol && sed 's/^ *//' "$home/arbol" | grep -xF -- "$1"; }
 # dice_algo REGEX: some line of it matches.
-dice_algo() { arbol && grep -E -- "$1" "$casa/arbol"; }
+dice_algo() { arbol && grep -E -- "$1" "$home/arbol"; }
 pulsa_opcion() { "$aqui/arbol.py" zorve pulsa "$1"; }
 
 # con_pocas_terminales: the program, where only xterm and kitty are installed and $TERMINAL names xterm.
 con_pocas_terminales() {
-  mkdir -p "$casa/pocas"
-  ln -sf "$(command -v xterm)" "$(command -v kitty)" "$casa/pocas"
-  arranca zorve env PATH="$casa/pocas" XDG_DATA_DIRS="$casa/nada" TERMINAL=xterm "$bin/zorve"
+  mkdir -p "$home/pocas"
+  ln -sf "$(command -v xterm)" "$(command -v kitty)" "$home/pocas"
+  arranca zorve env PATH="$home/pocas" XDG_DATA_DIRS="$home/nada" TERMINAL=xterm "$bin/zorve"
   # shellcheck disable=SC2034 # the tests read it
   zorve_pid=$ultimo
   espera tiene_nombre com.sarnol.zorve

@@ -4,27 +4,27 @@
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
 
 # shellcheck disable=SC2010,SC2012,SC2086 # a handful of names that sway chooses
-primero() { ls -d "$casa"/sway/$1 2>/dev/null | grep -v '\.lock$' | head -n 1; }
+primero() { ls -d "$home"/sway/$1 2>/dev/null | grep -v '\.lock$' | head -n 1; }
 hay_primero() { [ -n "$(primero "$1")" ]; }
 
 # como_persona COMMAND...: sway refuses to be root, and then is somebody else.
 como_persona() {
   [ "$(id -u)" -ne 0 ] || set -- setpriv --reuid 65534 --regid 65534 --clear-groups "$@"
-  XDG_RUNTIME_DIR=$casa/sway exec "$@"
+  XDG_RUNTIME_DIR=$home/sway exec "$@"
 }
 
 # escritorio_sway KIND [CONFIG...]: a whole desktop over a made-up home; CONFIG are lines of sway's configuration.
 escritorio_sway() {
-  hogar "$1"
+  home "$1"
   shift
   bus
   unset DISPLAY
   export WLR_BACKENDS=headless WLR_LIBINPUT_NO_DEVICES=1 WLR_RENDERER=pixman XDG_SESSION_TYPE=wayland
-  mkdir -m 700 "$casa/sway"
-  [ "$(id -u)" -ne 0 ] || chown 65534:65534 "$casa/sway"
-  chmod 711 "$casa"
-  printf '%s\n' 'output HEADLESS-1 resolution 1280x800' 'xwayland disable' "$@" >"$casa/sway.conf"
-  arranca sway como_persona sway -c "$casa/sway.conf"
+  mkdir -m 700 "$home/sway"
+  [ "$(id -u)" -ne 0 ] || chown 65534:65534 "$home/sway"
+  chmod 711 "$home"
+  printf '%s\n' 'output HEADLESS-1 resolution 1280x800' 'xwayland disable' "$@" >"$home/sway.conf"
+  arranca sway como_persona sway -c "$home/sway.conf"
   espera hay_primero 'wayland-?'
   espera hay_primero 'sway-ipc*'
   WAYLAND_DISPLAY=$(primero 'wayland-?')

@@ -10,7 +10,7 @@ declare -A pantallas buses
 
 # mundo NAME SCALE: a desktop and the program on it.
 mundo() {
-  rm -f "$casa/pantalla" "$casa/bus"
+  rm -f "$home/pantalla" "$home/bus"
   servidor -screen 0 960x1180x24
   bus
   pantallas[$1]=$DISPLAY buses[$1]=$DBUS_SESSION_BUS_ADDRESS
@@ -42,7 +42,7 @@ foto() {
   read -r x y ancho alto < <(en "$1" lugar "$(en "$1" ventana "$tamano")")
   borde=$((ancho / 70))
   en "$1" import -silent -window root \
-    -crop "$((ancho - 2 * borde))x$((alto - 2 * borde))+$((x + borde))+$((y + borde))" +repage "$casa/$1.ppm"
+    -crop "$((ancho - 2 * borde))x$((alto - 2 * borde))+$((x + borde))+$((y + borde))" +repage "$home/$1.ppm"
 }
 
 foto_translucida() { foto translucido; }
@@ -53,9 +53,9 @@ iguales() {
   local distintos
   foto_translucida
   foto opaco
-  distintos=$(convert "$casa/translucido.ppm" "$casa/opaco.ppm" -compose difference -composite -separate \
+  distintos=$(convert "$home/translucido.ppm" "$home/opaco.ppm" -compose difference -composite -separate \
     -evaluate-sequence max -threshold 1.2% -format '%[fx:round(mean*w*h)]' info:)
-  echo "$distintos" >"$casa/distintos"
+  echo "$distintos" >"$home/distintos"
   [ "$distintos" = 0 ]
 }
 
@@ -69,10 +69,10 @@ son_iguales() {
       echo "$1 at $escala: the same"
       return
     fi
-    [ -z "${ZORVE_FOTOS:-}" ] || cp "$casa"/{translucido,opaco}.ppm "$ZORVE_FOTOS"
+    [ -z "${ZORVE_FOTOS:-}" ] || cp "$home"/{translucido,opaco}.ppm "$ZORVE_FOTOS"
     [ "$vez" -ne 30 ] || relee
   done
-  fallo "$1 at $escala: $(cat "$casa/distintos") pixels differ"
+  fallo "$1 at $escala: $(cat "$home/distintos") pixels differ"
 }
 
 # estado NAME XDOTOOL...: the keys, then the comparison.
@@ -112,9 +112,9 @@ recorre() {
   estado "hovering elsewhere" sleep 0
   estado "scrolling" click --repeat 3 5
   estado "scrolling back" click --repeat 5 4
-  echo '{' >>"$casa/.claude/history.jsonl"
+  echo '{' >>"$home/.claude/history.jsonl"
   estado "band coming" key ctrl+r
-  sed -i '$d' "$casa/.claude/history.jsonl"
+  sed -i '$d' "$home/.claude/history.jsonl"
   estado "band going" key ctrl+r
   en_los_dos xdotool mousemove 2 2
 }
@@ -123,7 +123,7 @@ recorre() {
 compara_a() {
   escala=$1
   tamano=$(awk -v e="$escala" 'BEGIN { print 440 * e, 560 * e }')
-  hogar lista
+  home lista
   mundo translucido "$escala"
   mundo opaco "$escala"
   recorre

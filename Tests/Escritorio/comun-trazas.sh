@@ -9,7 +9,7 @@ command -v strace >/dev/null || {
 
 # zorve_trazado OPTIONS...: the program as strace's OPTIONS say, traced from its side: its own process stays ours.
 zorve_trazado() {
-  arranca zorve strace -D -f -qq -o "$casa/trazas" "$@" "$bin/zorve"
+  arranca zorve strace -D -f -qq -o "$home/trazas" "$@" "$bin/zorve"
   # shellcheck disable=SC2034 # the tests read it
   zorve_pid=$ultimo
   espera tiene_nombre com.sarnol.zorve

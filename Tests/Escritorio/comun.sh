@@ -5,14 +5,14 @@ set -euo pipefail
 aqui=$(realpath "$(dirname "${BASH_SOURCE[0]}")")
 raiz=$(realpath "$aqui/../..")
 bin=${ZORVE_BIN:?the folder that holds zorve}
-casa=$(mktemp -d)
+home=$(mktemp -d)
 hijos=()
 
 limpia() {
   local estado=$?
   [ "$estado" -eq 0 ] || [ "$estado" -eq 77 ] || cuenta_lo_visto
   termina_hijos
-  rm -rf "$casa"
+  rm -rf "$home"
   exit "$estado"
 }
 trap limpia EXIT
@@ -33,7 +33,7 @@ cuenta_lo_visto() {
   echo "--- windows" >&2
   xwininfo -root -tree 2>/dev/null | grep -E '"|[0-9]+x[0-9]+' | head -n 40 >&2 || :
   echo "--- what zorve wrote" >&2
-  tail -n 40 "$casa"/zorve.err >&2 || :
+  tail -n 40 "$home"/zorve.err >&2 || :
   if [ -n "${ZORVE_FOTOS:-}" ]; then import -window root "$ZORVE_FOTOS/$(basename "$0" .sh).png" || :; fi
 }
 
@@ -56,11 +56,11 @@ espera() {
 
 no() { ! "$@"; }
 
-# arranca NAME COMMAND...: in the background, what it writes in $casa/NAME.err.
+# arranca NAME COMMAND...: in the background, what it writes in $home/NAME.err.
 arranca() {
   local nombre=$1
   shift
-  "$@" >"$casa/$nombre.out" 2>"$casa/$nombre.err" &
+  "$@" >"$home/$nombre.out" 2>"$home/$nombre.err" &
   hijos+=($!)
   ultimo=$!
 }
@@ -68,10 +68,10 @@ arranca() {
 # servidor [SCREENS]: the X server; SCREENS are Xvfb's.
 servidor() {
   [ $# -gt 0 ] || set -- -screen 0 1280x800x24
-  Xvfb -displayfd 3 "$@" -nolisten tcp -noreset 3>"$casa/pantalla" 2>/dev/null &
+  Xvfb -displayfd 3 "$@" -nolisten tcp -noreset 3>"$home/pantalla" 2>/dev/null &
   hijos+=($!)
-  espera test -s "$casa/pantalla"
-  DISPLAY=:$(cat "$casa/pantalla")
+  espera test -s "$home/pantalla"
+  DISPLAY=:$(cat "$home/pantalla")
   export DISPLAY
 }
 
@@ -79,10 +79,10 @@ servidor() {
 monitor() { xrandr --setmonitor "$1" "$2/300x$3/200+$4+$5" "$6" >/dev/null; }
 
 bus() {
-  dbus-daemon --session --nofork --print-address=3 3>"$casa/bus" 2>/dev/null &
+  dbus-daemon --session --nofork --print-address=3 3>"$home/bus" 2>/dev/null &
   hijos+=($!)
-  espera test -s "$casa/bus"
-  DBUS_SESSION_BUS_ADDRESS=$(cat "$casa/bus")
+  espera test -s "$home/bus"
+  DBUS_SESSION_BUS_ADDRESS=$(cat "$home/bus")
   export DBUS_SESSION_BUS_ADDRESS
 }
 
@@ -90,24 +90,24 @@ bus() {
 escritorio() {
   local clase=${1:-lista}
   [ $# -eq 0 ] || shift
-  hogar "$clase"
+  home "$clase"
   servidor "$@"
   bus
   gestor
 }
 
-# hogar KIND: the made-up home, and an environment that knows no other.
-hogar() {
-  mkdir -p "$casa/run" "$casa/.config/com.sarnol.zorve"
-  chmod 700 "$casa/run"
-  export HOME=$casa XDG_CONFIG_HOME=$casa/.config XDG_RUNTIME_DIR=$casa/run XDG_DATA_HOME=$casa/.local/share
+# home KIND: the made-up home, and an environment that knows no other.
+home() {
+  mkdir -p "$home/run" "$home/.config/com.sarnol.zorve"
+  chmod 700 "$home/run"
+  export HOME=$home XDG_CONFIG_HOME=$home/.config XDG_RUNTIME_DIR=$home/run XDG_DATA_HOME=$home/.local/share
   # Not the file-sharing service, which would mount a folder in the home.
   mkdir -p "$XDG_DATA_HOME/dbus-1/services"
   printf '[D-BUS Service]\nName=org.freedesktop.portal.Documents\nExec=%s\n' "$aqui/documentos.py" \
     >"$XDG_DATA_HOME/dbus-1/services/org.freedesktop.portal.Documents.service"
   unset XDG_CURRENT_DESKTOP XDG_SESSION_TYPE WAYLAND_DISPLAY LC_ALL
   export LANG=C.UTF-8
-  "$raiz/Scripts/casa-de-muestra.sh" "$casa" $$ "$1"
+  "$raiz/Scripts/home-de-muestra.sh" "$home" $$ "$1"
   preferencias '{"app.zorve.panelMostradoEnPrimerArranque":true,"zorve.avisoDeBandejaMostrado":true}'
 }
 
@@ -135,7 +135,7 @@ compositor() {
 }
 hay_compositor() { xprop -root _NET_WM_CM_S0 | grep -q 'window id' || xdotool search --name picom; }
 
-preferencias() { printf '%s\n' "$1" >"$casa/.config/com.sarnol.zorve/preferences.json"; }
+preferencias() { printf '%s\n' "$1" >"$home/.config/com.sarnol.zorve/preferences.json"; }
 
 tiene_nombre() {
   dbus-send --session --print-reply --dest=org.freedesktop.DBus /org/freedesktop/DBus \

@@ -2,7 +2,7 @@
 
 #include "ZorvePlatform/MacOS/AplicacionesMac.h"
 #include "ZorvePlatform/MacOS/Cadenas.h"
-#include "ZorvePlatform/MacOS/DirectorioHogarMac.h"
+#include "ZorvePlatform/MacOS/DirectorioHomeMac.h"
 #include "ZorvePlatform/MacOS/ManejadorMac.h"
 
 namespace zorve {
@@ -27,11 +27,11 @@ TEST(ManejadorMac, unTipoQueElSistemaNoConoceNoTieneNadie) {
   EXPECT_EQ(ManejadorMac{}.preguntar("com.sarnol.tipo.que.no.existe"), RespuestaDelSistema{});
 }
 
-TEST(DirectorioHogarMac, esAbsolutoYSinBarraFinal) {
-  auto const hogar = directorioHogarMac();
-  ASSERT_FALSE(hogar.empty());
-  EXPECT_EQ(hogar.front(), '/');
-  EXPECT_NE(hogar.back(), '/');
+TEST(DirectorioHomeMac, esAbsolutoYSinBarraFinal) {
+  auto const home = directorioHomeMac();
+  ASSERT_FALSE(home.empty());
+  EXPECT_EQ(home.front(), '/');
+  EXPECT_NE(home.back(), '/');
 }
 
 TEST(Cadenas, losBytesQueNoSonUtf8PasanComoCaracterDeReemplazo) {

@@ -48,7 +48,7 @@ class CadaTerminal : public DeUnTerminal {
   }
 
   static void abreEn(Escritorio const& escritorio, std::string const& nombre) {
-    auto const directorio = escritorio.casa().carpeta("d/" + nombre);
+    auto const directorio = escritorio.home().carpeta("d/" + nombre);
     auto const corrida = escritorio.ayudante(
         {"open", GetParam().identificador, directorio, "claude -r " + palabraDeShell(nombre)});
     ASSERT_EQ(corrida.codigo, 0) << corrida.error;
@@ -77,7 +77,7 @@ TEST_P(CadaTerminal, sinPantallaFallaConSusPropiasPalabrasEnTresSegundos) {
   EscritorioDe const escritorio{GetParam(), Escritorio::Pantalla::ninguna};
   auto const empieza = std::chrono::steady_clock::now();
   auto const corrida =
-      escritorio.ayudante({"open", GetParam().identificador, escritorio.casa().ruta(), "claude"});
+      escritorio.ayudante({"open", GetParam().identificador, escritorio.home().ruta(), "claude"});
   EXPECT_LT(std::chrono::steady_clock::now() - empieza, 3s);
   EXPECT_NE(corrida.codigo, 0);
   EXPECT_TRUE(corrida.error.starts_with("zorve-terminal: " + GetParam().programas.front() + " "));
@@ -88,10 +88,10 @@ TEST_P(CadaTerminal, sinPantallaFallaConSusPropiasPalabrasEnTresSegundos) {
 
 TEST_P(CadaTerminal, largoSinBusDeSesionAbreOFallaConSusPropiasPalabrasEnTresSegundos) {
   EscritorioDe escritorio{GetParam()};
-  escritorio.variables["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=" + escritorio.casa().dentro("nada");
+  escritorio.variables["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=" + escritorio.home().dentro("nada");
   auto const empieza = std::chrono::steady_clock::now();
   auto const corrida =
-      escritorio.ayudante({"open", GetParam().identificador, escritorio.casa().ruta(), "claude"});
+      escritorio.ayudante({"open", GetParam().identificador, escritorio.home().ruta(), "claude"});
   EXPECT_LT(std::chrono::steady_clock::now() - empieza, 3s);
   EXPECT_EQ(corrida.codigo == 0, GetParam().identificador != "org.gnome.Terminal") << corrida.error;
   if (corrida.codigo == 0) {
@@ -115,9 +115,9 @@ TEST(Foot, dondeUnoEsperaLaVentanaEsSuya) {
   Escritorio const escritorio{Escritorio::Pantalla::wayland};
   auto const servidor = escritorio.empezar({"foot", "--server"});
   auto const zocalo =
-      escritorio.casa().dentro("r/foot-" + escritorio.variables.at("WAYLAND_DISPLAY") + ".sock");
+      escritorio.home().dentro("r/foot-" + escritorio.variables.at("WAYLAND_DISPLAY") + ".sock");
   ASSERT_TRUE(esperarA([&] { return std::filesystem::exists(zocalo); }));
-  auto const directorio = escritorio.casa().carpeta(raro);
+  auto const directorio = escritorio.home().carpeta(raro);
   auto const corrida = escritorio.ayudante({"open", "foot", directorio, "claude -r " + palabraDeShell(raro)});
   ASSERT_EQ(corrida.codigo, 0) << corrida.error;
   auto const anotados = escritorio.anotados(1);

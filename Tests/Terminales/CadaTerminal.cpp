@@ -37,10 +37,10 @@ EscritorioDe::EscritorioDe(FichaDeTerminal const& ficha, Pantalla pantalla,
                            std::string const& gestorDeVentanas)
     : Escritorio{pantalla, gestorDeVentanas} {
   if (!ficha.esCualquierOtra) return;
-  auto const enlace = casa().carpeta("enlaces") + "/" + ficha.programas.front();
+  auto const enlace = home().carpeta("enlaces") + "/" + ficha.programas.front();
   std::filesystem::create_symlink(programaInstalado(terminalDesconocida).value(), enlace);
   if (pantalla == Pantalla::ninguna) variables["DISPLAY"] = ":65000";  // without a word urxvt tries ":0"
-  variables["PATH"] = casa().dentro("enlaces") + ":" + variables["PATH"];
+  variables["PATH"] = home().dentro("enlaces") + ":" + variables["PATH"];
 }
 
 std::string nombreDelTerminal(testing::TestParamInfo<FichaDeTerminal> const& caso) {

@@ -30,7 +30,7 @@ class ConTmux : public testing::Test {
 
   /// Runs the command with a session behind it; gives the session's place in `panes`.
   std::size_t pane(std::vector<std::string> palabras) {
-    palabras.push_back(escritorio.casa().dentro("propios/claude"));
+    palabras.push_back(escritorio.home().dentro("propios/claude"));
     auto const corrida = tmux(std::move(palabras));
     EXPECT_EQ(corrida.codigo, 0) << corrida.error;
     anotarElNuevo();
@@ -40,7 +40,7 @@ class ConTmux : public testing::Test {
   /// A window of the terminal that shows the session.
   void cliente(std::string const& terminal, std::string const& sesion) const {
     auto const antes = clientes();
-    auto const corrida = escritorio.ayudante({"open", terminal, escritorio.casa().ruta(),
+    auto const corrida = escritorio.ayudante({"open", terminal, escritorio.home().ruta(),
                                               "tmux -S " + palabraDeShell(enchufe) + " attach -t " + sesion});
     ASSERT_EQ(corrida.codigo, 0) << corrida.error;
     ASSERT_TRUE(esperarA([&] { return clientes() == antes + 1; }));
@@ -56,7 +56,7 @@ class ConTmux : public testing::Test {
     std::vector<std::string> todas;
     todas.reserve(panes.size());
     for (auto const& uno : panes) {
-      todas.push_back(leerArchivoDePrueba(escritorio.casa().dentro("teclas/" + std::to_string(uno.pid))));
+      todas.push_back(leerArchivoDePrueba(escritorio.home().dentro("teclas/" + std::to_string(uno.pid))));
     }
     return todas;
   }
@@ -90,7 +90,7 @@ class ConTmux : public testing::Test {
   explicit ConTmux(Escritorio::Pantalla pantalla = Escritorio::Pantalla::x11) : escritorio{pantalla} {}
 
   Escritorio escritorio;
-  std::string enchufe = escritorio.casa().dentro("r/t m");
+  std::string enchufe = escritorio.home().dentro("r/t m");
   std::vector<Anotado> panes;
   std::vector<pid_t> parados;
 };

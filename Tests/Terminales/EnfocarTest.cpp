@@ -74,7 +74,7 @@ TEST(EnfocarEnSway, lasVentanasDelServidorDeFootSeDistinguenPorSuTitulo) {
   dos.escritorio.empezar({"foot", "--server"});
   ASSERT_TRUE(esperarA([&] {
     auto const enchufe =
-        dos.escritorio.casa().dentro("r/foot-" + dos.escritorio.variables.at("WAYLAND_DISPLAY") + ".sock");
+        dos.escritorio.home().dentro("r/foot-" + dos.escritorio.variables.at("WAYLAND_DISPLAY") + ".sock");
     return std::filesystem::exists(enchufe);
   }));
   ASSERT_TRUE(dos.abrirVentana() && dos.abrirVentana());

@@ -86,24 +86,24 @@ std::optional<std::string> programaInstalado(std::string const& nombre) {
 }
 
 Escritorio::Escritorio(Pantalla pantalla, std::string const& gestorDeVentanas)
-    : marca_{"XDG_RUNTIME_DIR=" + casa_.carpeta("r")} {
-  std::filesystem::permissions(casa_.dentro("r"), std::filesystem::perms{0700});
-  casa_.carpeta("anotados");
-  casa_.carpeta("teclas");
-  casa_.carpeta(".config");
+    : marca_{"XDG_RUNTIME_DIR=" + home_.carpeta("r")} {
+  std::filesystem::permissions(home_.dentro("r"), std::filesystem::perms{0700});
+  home_.carpeta("anotados");
+  home_.carpeta("teclas");
+  home_.carpeta(".config");
   std::string claude{claudeDePrueba};
   for (auto i = claude.find(laCasa); i != std::string::npos; i = claude.find(laCasa)) {
-    claude.replace(i, laCasa.size(), casa_.ruta());
+    claude.replace(i, laCasa.size(), home_.ruta());
   }
   programa("claude", claude);
-  casa_.escribir(".bashrc", "PATH=\"$HOME/propios:$PATH\"\nPS1='LISTO> '\n");
+  home_.escribir(".bashrc", "PATH=\"$HOME/propios:$PATH\"\nPS1='LISTO> '\n");
   variables = {
-      {"HOME", casa_.ruta()}, {"PATH", "/usr/local/bin:/usr/bin:/bin"}, {"SHELL", "/bin/bash"},
-      {"LANG", "C.UTF-8"},    {"XDG_RUNTIME_DIR", casa_.dentro("r")},   {"LIBGL_ALWAYS_SOFTWARE", "1"},
+      {"HOME", home_.ruta()}, {"PATH", "/usr/local/bin:/usr/bin:/bin"}, {"SHELL", "/bin/bash"},
+      {"LANG", "C.UTF-8"},    {"XDG_RUNTIME_DIR", home_.dentro("r")},   {"LIBGL_ALWAYS_SOFTWARE", "1"},
       {"NO_AT_BRIDGE", "1"},  {"GSETTINGS_BACKEND", "memory"}};
-  std::filesystem::copy_file(ZORVE_TERMINAL, casa_.dentro("zorve-terminal"));
+  std::filesystem::copy_file(ZORVE_TERMINAL, home_.dentro("zorve-terminal"));
   for (auto const* const carpeta : {"", "r", "anotados", "teclas", ".config"}) {
-    if (::geteuid() == 0 && ::chown(casa_.dentro(carpeta).c_str(), usuarioOrdinario, usuarioOrdinario) != 0) {
+    if (::geteuid() == 0 && ::chown(home_.dentro(carpeta).c_str(), usuarioOrdinario, usuarioOrdinario) != 0) {
       throw std::runtime_error("chown failed");
     }
   }
@@ -121,7 +121,7 @@ Escritorio::Escritorio(Pantalla pantalla, std::string const& gestorDeVentanas)
 Escritorio::~Escritorio() { terminarTodo(); }
 
 void Escritorio::programa(std::string const& nombre, std::string const& guion) const {
-  auto const ruta = casa_.escribir("propios/" + nombre, "#!/bin/sh\n" + guion);
+  auto const ruta = home_.escribir("propios/" + nombre, "#!/bin/sh\n" + guion);
   std::filesystem::permissions(ruta, std::filesystem::perms{0755});
 }
 
@@ -135,14 +135,14 @@ std::vector<std::string> Escritorio::entorno() const {
 pid_t Escritorio::empezar(std::vector<std::string> const& palabras) const {
   auto argumentos = comoUsuarioOrdinario(palabras);
   auto variablesDelHijo = entorno();
-  auto const registro = casa_.dentro("registro-" + std::filesystem::path{palabras.at(0)}.filename().string());
+  auto const registro = home_.dentro("registro-" + std::filesystem::path{palabras.at(0)}.filename().string());
   posix_spawn_file_actions_t acciones;
   posix_spawn_file_actions_init(&acciones);
   posix_spawn_file_actions_addopen(&acciones, 0, "/dev/null", O_RDONLY, 0);
   posix_spawn_file_actions_addopen(&acciones, 1, registro.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
   posix_spawn_file_actions_addopen(&acciones, 2, (registro + ".error").c_str(), O_WRONLY | O_CREAT | O_TRUNC,
                                    0600);
-  posix_spawn_file_actions_addchdir_np(&acciones, casa_.ruta().c_str());
+  posix_spawn_file_actions_addchdir_np(&acciones, home_.ruta().c_str());
   pid_t pid = 0;
   auto const ruta = programaInstalado(argumentos.at(0)).value_or(argumentos.at(0));
   int const codigo = posix_spawn(&pid, ruta.c_str(), &acciones, nullptr, punteros(argumentos).data(),
@@ -153,7 +153,7 @@ pid_t Escritorio::empezar(std::vector<std::string> const& palabras) const {
 }
 
 dobles::Corrida Escritorio::correr(std::vector<std::string> palabras) const {
-  std::vector<std::string> todas{"/usr/bin/env", "-i", "-C", casa_.ruta()};
+  std::vector<std::string> todas{"/usr/bin/env", "-i", "-C", home_.ruta()};
   for (auto const& variable : entorno()) todas.push_back(variable);
   palabras = comoUsuarioOrdinario(std::move(palabras));
   todas.insert(todas.end(), palabras.begin(), palabras.end());
@@ -161,14 +161,14 @@ dobles::Corrida Escritorio::correr(std::vector<std::string> palabras) const {
 }
 
 dobles::Corrida Escritorio::ayudante(std::vector<std::string> const& args) const {
-  std::vector<std::string> palabras{casa_.dentro("zorve-terminal")};
+  std::vector<std::string> palabras{home_.dentro("zorve-terminal")};
   palabras.insert(palabras.end(), args.begin(), args.end());
   return correr(palabras);
 }
 
 void Escritorio::empezarBus() {
   empezar({"dbus-daemon", "--session", "--nofork", "--print-address"});
-  auto const registro = casa_.dentro("registro-dbus-daemon");
+  auto const registro = home_.dentro("registro-dbus-daemon");
   if (!esperarA([&] { return leerArchivoDePrueba(registro).ends_with('\n'); })) {
     throw std::runtime_error("no session bus");
   }
@@ -179,7 +179,7 @@ void Escritorio::empezarBus() {
 
 void Escritorio::empezarX(std::string const& gestorDeVentanas) {
   empezar({"Xvfb", "-displayfd", "1", "-screen", "0", "1600x1000x24", "-nolisten", "tcp", "-noreset"});
-  auto const registro = casa_.dentro("registro-Xvfb");
+  auto const registro = home_.dentro("registro-Xvfb");
   if (!esperarA([&] { return leerArchivoDePrueba(registro).ends_with('\n'); })) {
     throw std::runtime_error("no X server");
   }
@@ -201,7 +201,7 @@ std::vector<Anotado> Escritorio::anotados(std::size_t cuantos) const {
   std::vector<Anotado> todos;
   (void)esperarA([&] {
     todos.clear();
-    for (auto const& entrada : std::filesystem::directory_iterator{casa_.dentro("anotados")}) {
+    for (auto const& entrada : std::filesystem::directory_iterator{home_.dentro("anotados")}) {
       if (entrada.path().filename().string().starts_with("t.")) continue;
       if (auto anotado = leerAnotado(entrada.path().string())) todos.push_back(*anotado);
     }
@@ -212,7 +212,7 @@ std::vector<Anotado> Escritorio::anotados(std::size_t cuantos) const {
 }
 
 void Escritorio::olvidar() const {
-  for (auto const& entrada : std::filesystem::directory_iterator{casa_.dentro("anotados")}) {
+  for (auto const& entrada : std::filesystem::directory_iterator{home_.dentro("anotados")}) {
     std::filesystem::remove(entrada.path());
   }
 }

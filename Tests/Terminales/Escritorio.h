@@ -65,7 +65,7 @@ class Escritorio {
 
   /// The window manager's process.
   [[nodiscard]] pid_t gestorDeVentanas() const { return gestor_; }
-  [[nodiscard]] dobles::CarpetaTemporal const& casa() const { return casa_; }
+  [[nodiscard]] dobles::CarpetaTemporal const& home() const { return home_; }
   std::map<std::string, std::string> variables;
 
  private:
@@ -79,7 +79,7 @@ class Escritorio {
   [[nodiscard]] std::vector<pid_t> procesosPropios() const;
   void terminarTodo() const;
 
-  dobles::CarpetaTemporal casa_;
+  dobles::CarpetaTemporal home_;
   std::string marca_;
   pid_t gestor_ = 0;
 };

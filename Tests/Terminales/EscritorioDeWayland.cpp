@@ -7,7 +7,7 @@ namespace zorve::pruebas {
 
 bool Escritorio::esperarEnchufe(std::string const& principio, std::string const& variable) {
   return esperarA([&] {
-    for (auto const& entrada : std::filesystem::directory_iterator{casa_.dentro("r")}) {
+    for (auto const& entrada : std::filesystem::directory_iterator{home_.dentro("r")}) {
       auto const nombre = entrada.path().filename().string();
       if (!nombre.starts_with(principio) || nombre.ends_with(".lock")) continue;
       variables[variable] = variable == "SWAYSOCK" ? entrada.path().string() : nombre;
@@ -23,10 +23,10 @@ void Escritorio::empezarSway() {
   variables["WLR_RENDERER"] = "pixman";
   variables["XDG_SESSION_TYPE"] = "wayland";
   empezarBus();
-  casa_.escribir("sway.conf", "output HEADLESS-1 resolution 1600x1000\nxwayland disable\n");
-  empezar({"sway", "-c", casa_.dentro("sway.conf")});
+  home_.escribir("sway.conf", "output HEADLESS-1 resolution 1600x1000\nxwayland disable\n");
+  empezar({"sway", "-c", home_.dentro("sway.conf")});
   if (!esperarEnchufe("wayland-", "WAYLAND_DISPLAY") || !esperarEnchufe("sway-ipc", "SWAYSOCK")) {
-    throw std::runtime_error("no sway: " + leerArchivoDePrueba(casa_.dentro("registro-sway.error")));
+    throw std::runtime_error("no sway: " + leerArchivoDePrueba(home_.dentro("registro-sway.error")));
   }
   // The bus came first; what it starts needs to know the display.
   (void)correr({"dbus-update-activation-environment", "WAYLAND_DISPLAY", "SWAYSOCK"});
@@ -38,9 +38,9 @@ void Escritorio::empezarKWin() {
   // Software rendering.
   variables["KWIN_COMPOSE"] = "Q";
   empezarBus();
-  casa_.escribir(".config/kwinrc", "[Desktops]\nNumber=2\nRows=1\n");
+  home_.escribir(".config/kwinrc", "[Desktops]\nNumber=2\nRows=1\n");
   // A copy carries no file capability, which an ordinary user of a container may not be allowed.
-  auto const copia = casa_.dentro("kwin_wayland");
+  auto const copia = home_.dentro("kwin_wayland");
   std::filesystem::copy_file("/usr/bin/kwin_wayland", copia);
   empezar({copia, "--virtual", "--width", "1600", "--height", "1000", "--socket", "wayland-0",
            "--no-lockscreen", "--no-global-shortcuts"});
@@ -50,7 +50,7 @@ void Escritorio::empezarKWin() {
                .codigo == 0;
   };
   if (!esperarEnchufe("wayland-", "WAYLAND_DISPLAY") || !esperarA(manda)) {
-    throw std::runtime_error("no KWin: " + leerArchivoDePrueba(casa_.dentro("registro-kwin_wayland.error")));
+    throw std::runtime_error("no KWin: " + leerArchivoDePrueba(home_.dentro("registro-kwin_wayland.error")));
   }
   (void)correr({"dbus-update-activation-environment", "WAYLAND_DISPLAY", "XDG_SESSION_TYPE"});
 }

@@ -29,11 +29,11 @@ class DosVentanasDeKWinLargo : public DeUnTerminal {
 
   DosVentanasDeKWinLargo()
       : dos{GetParam(), hayKWin() ? Escritorio::Pantalla::kwin : Escritorio::Pantalla::ninguna} {
-    auto const casa = dos.escritorio.casa().ruta();
-    dos.escritorio.programa("claude", "n=$(mktemp '" + casa + "/anotados/t.XXXXXX') || exit 1\n" +
+    auto const home = dos.escritorio.home().ruta();
+    dos.escritorio.programa("claude", "n=$(mktemp '" + home + "/anotados/t.XXXXXX') || exit 1\n" +
                                           "printf '%s\\0' \"$(pwd -P; echo .)\" \"$(tty)\" \"$$\" >\"$n\"\n" +
-                                          "mv \"$n\" '" + casa + "/anotados/'$$\nstty -icanon -echo\n" +
-                                          "printf '\\033[?1004h\\033[c'\nexec cat >>'" + casa +
+                                          "mv \"$n\" '" + home + "/anotados/'$$\nstty -icanon -echo\n" +
+                                          "printf '\\033[?1004h\\033[c'\nexec cat >>'" + home +
                                           "/teclas/'$$\n");
   }
 

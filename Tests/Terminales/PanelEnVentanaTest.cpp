@@ -10,7 +10,7 @@
 
 #include "Terminales/Escritorio.h"
 #include "Terminales/Teclado.h"
-#include "zorvectl/Hogar.h"
+#include "zorvectl/Home.h"
 
 namespace zorve::pruebas {
 namespace {
@@ -31,9 +31,9 @@ class PanelEnVentana : public testing::TestWithParam<Emulador> {
  protected:
   void SetUp() override {
     if (!programaInstalado(GetParam().nombre)) GTEST_SKIP() << GetParam().nombre << " is not here";
-    auto const& casa = escritorio.casa();
-    casa.escribir(".claude/projects/-x/" + std::string{id} + ".jsonl", aiTitle("Draw the icon"));
-    casa.escribir(".claude/history.jsonl", prompt(id, "x", casa.carpeta("src icon"), haceMilisegundos(1000)));
+    auto const& home = escritorio.home();
+    home.escribir(".claude/projects/-x/" + std::string{id} + ".jsonl", aiTitle("Draw the icon"));
+    home.escribir(".claude/history.jsonl", prompt(id, "x", home.carpeta("src icon"), haceMilisegundos(1000)));
     escritorio.variables["SHELL"] = "/bin/bash";
     auto palabras = GetParam().palabras;
     palabras.insert(palabras.end(), {ZORVECTL, "panel", "--here"});
@@ -45,17 +45,17 @@ class PanelEnVentana : public testing::TestWithParam<Emulador> {
 };
 
 TEST_P(PanelEnVentana, loEscritoYRetornoAbrenLaSesionEnLaMismaVentana) {
-  auto const& casa = escritorio.casa();
+  auto const& home = escritorio.home();
   ASSERT_TRUE(esperarA([&] {
     teclado.control("u");
     teclado.linea("icon");
-    return esperarA([&] { return !std::filesystem::is_empty(casa.dentro("anotados")); },
+    return esperarA([&] { return !std::filesystem::is_empty(home.dentro("anotados")); },
                     std::chrono::seconds{1});
   }));
   auto const anotados = escritorio.anotados(1);
   ASSERT_EQ(anotados.size(), 1U);
   EXPECT_EQ(anotados.front().args, (std::vector<std::string>{"-r", std::string{id}}));
-  EXPECT_EQ(anotados.front().directorio, casa.dentro("src icon"));
+  EXPECT_EQ(anotados.front().directorio, home.dentro("src icon"));
 }
 
 TEST_P(PanelEnVentana, losColoresSonLosDelEstiloComoLosTieneEseTerminal) {

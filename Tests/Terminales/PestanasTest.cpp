@@ -30,7 +30,7 @@ bool pestanaDeKonsole(Sesiones& s) {
   EXPECT_EQ(nueva.codigo, 0) << nueva.error;
   auto const numero = std::to_string(std::stoi(nueva.salida.substr(nueva.salida.find_last_of(' ') + 1)));
   auto const puesta = llamar({"/Sessions/" + numero, "org.kde.konsole.Session.runCommand",
-                              "string:" + s.escritorio.casa().dentro("propios/claude")});
+                              "string:" + s.escritorio.home().dentro("propios/claude")});
   return puesta.codigo == 0;
 }
 
@@ -39,7 +39,7 @@ Palabras desdeLaPrimera(Sesiones const& s, Palabras const& nombres, Palabras con
   Palabras todas{"env"};
   for (auto const& nombre : nombres) todas.push_back(nombre + "=" + s.variableDe(0, nombre));
   todas.insert(todas.end(), palabras.begin(), palabras.end());
-  todas.push_back(s.escritorio.casa().dentro("propios/claude"));
+  todas.push_back(s.escritorio.home().dentro("propios/claude"));
   return todas;
 }
 
@@ -85,7 +85,7 @@ class Pestanas : public testing::TestWithParam<Caso> {
   }
 
   [[nodiscard]] bool abrirlas() {
-    s.escritorio.casa().escribir(".config/kitty/kitty.conf",
+    s.escritorio.home().escribir(".config/kitty/kitty.conf",
                                  "allow_remote_control yes\nlisten_on unix:@zorve-prueba-{kitty_pid}\n");
     return s.abrirVentana() && GetParam().abrirPestana(s) && s.esperarOtra() && s.abrirVentana();
   }
@@ -192,7 +192,7 @@ TEST(GnomeTerminalConBuscador, muestraLaPestanaQueSeLePide) {
   auto const& ficha = *fichaDeLinux(gnomeTerminal.identificador);
   if (!estaAqui(ficha)) GTEST_SKIP() << noEstaAqui(ficha);
   Sesiones s{ficha, Escritorio::Pantalla::x11};
-  s.escritorio.casa().escribir(".config/glib-2.0/settings/keyfile",
+  s.escritorio.home().escribir(".config/glib-2.0/settings/keyfile",
                                "[org/gnome/terminal/legacy]\nshell-integration-enabled=true\n");
   ASSERT_TRUE(s.hacer({"dbus-update-activation-environment", "GSETTINGS_BACKEND=keyfile"}));
   ASSERT_TRUE(s.abrirVentana() && pestanaDeGnomeTerminal(s) && s.esperarOtra() && s.abrirVentana());

@@ -31,18 +31,18 @@ class SesionViva : public testing::Test {
   }
   /// That process is the running session.
   void registrar(pid_t pid) const {
-    escritorio.casa().escribir(std::string{".claude/projects/p/"} + sesion + ".jsonl", "{}\n");
-    escritorio.casa().escribir(".claude/history.jsonl",
+    escritorio.home().escribir(std::string{".claude/projects/p/"} + sesion + ".jsonl", "{}\n");
+    escritorio.home().escribir(".claude/history.jsonl",
                                R"({"display":"hola","timestamp":1700000000000,"project":")" +
-                                   escritorio.casa().ruta() + R"(","sessionId":")" + sesion + "\"}\n");
-    escritorio.casa().escribir(".claude/sessions/1.json", "{\"pid\":" + std::to_string(pid) +
+                                   escritorio.home().ruta() + R"(","sessionId":")" + sesion + "\"}\n");
+    escritorio.home().escribir(".claude/sessions/1.json", "{\"pid\":" + std::to_string(pid) +
                                                               R"(,"sessionId":")" + sesion + R"(","cwd":")" +
-                                                              escritorio.casa().ruta() + "\"}\n");
+                                                              escritorio.home().ruta() + "\"}\n");
   }
   /// A window of xterm with a session in it.
   Anotado enXterm() { return enVentanaDe("xterm"); }
   Anotado enVentanaDe(std::string const& terminal) {
-    auto const corrida = escritorio.ayudante({"open", terminal, escritorio.casa().ruta(), "claude"});
+    auto const corrida = escritorio.ayudante({"open", terminal, escritorio.home().ruta(), "claude"});
     EXPECT_EQ(corrida.codigo, 0) << corrida.error;
     return laNueva();
   }
@@ -83,7 +83,7 @@ class SesionViva : public testing::Test {
     for (auto const pid : vistas) EXPECT_EQ(teclasDe(pid).contains(tecla), pid == una.pid);
   }
   [[nodiscard]] std::string teclasDe(pid_t pid) const {
-    return leerArchivoDePrueba(escritorio.casa().dentro("teclas/" + std::to_string(pid)));
+    return leerArchivoDePrueba(escritorio.home().dentro("teclas/" + std::to_string(pid)));
   }
   void parar(pid_t pid) {
     parados.push_back(pid);
@@ -91,8 +91,8 @@ class SesionViva : public testing::Test {
   }
 
   Escritorio escritorio{Escritorio::Pantalla::x11};
-  std::string claude = escritorio.casa().dentro("propios/claude");
-  std::string enchufe = escritorio.casa().dentro("r/tmux");
+  std::string claude = escritorio.home().dentro("propios/claude");
+  std::string enchufe = escritorio.home().dentro("r/tmux");
   std::vector<pid_t> vistas;
   std::vector<pid_t> parados;
 };

@@ -26,7 +26,7 @@ std::vector<FichaDeTerminal> enfocables(SesionGrafica sesion) {
 
 bool Sesiones::abrirVentana(std::string const& orden) {
   auto const antes = ventanas().size();
-  auto const corrida = escritorio.ayudante({"open", ficha_.identificador, escritorio.casa().ruta(), orden});
+  auto const corrida = escritorio.ayudante({"open", ficha_.identificador, escritorio.home().ruta(), orden});
   EXPECT_EQ(corrida.codigo, 0) << corrida.error;
   // A shell may run before its window is shown, which then takes the keyboard.
   if (!esperarOtra()) return false;
@@ -71,7 +71,7 @@ dobles::Corrida Sesiones::enfocar(std::size_t cual) const {
 }
 
 std::string Sesiones::teclasDe(std::size_t cual) const {
-  return leerArchivoDePrueba(escritorio.casa().dentro("teclas/" + std::to_string(sesiones.at(cual).pid)));
+  return leerArchivoDePrueba(escritorio.home().dentro("teclas/" + std::to_string(sesiones.at(cual).pid)));
 }
 
 void Sesiones::laTeclaLlegaSoloA(std::size_t cual, std::string const& tecla) const {

@@ -18,14 +18,14 @@ class Ventana {
   Ventana(FichaDeTerminal const& ficha, std::string const& shell)
       : escritorio{ficha}, terminal_{ficha.identificador} {
     escritorio.variables["SHELL"] = shell;
-    auto const& casa = escritorio.casa();
+    auto const& home = escritorio.home();
     std::string const ajustes = "PATH=\"$HOME/propios:$PATH\"\nPS1='LISTO> '\n";
-    casa.escribir(".bashrc", ajustes + "PROMPT_COMMAND='echo . >>\"$HOME/prompts\"'\n");
-    casa.escribir(".zshrc", ajustes + "precmd() { echo . >>\"$HOME/prompts\" }\n");
-    EXPECT_EQ(escritorio.correr({"mkdir", "-p", casa.dentro(".config/fish")}).codigo, 0);
-    casa.escribir(".config/fish/config.fish", "set -x PATH \"$HOME/propios\" $PATH\n");
-    casa.escribir("ajustes.sh", ajustes);
-    escritorio.variables["ENV"] = casa.dentro("ajustes.sh");
+    home.escribir(".bashrc", ajustes + "PROMPT_COMMAND='echo . >>\"$HOME/prompts\"'\n");
+    home.escribir(".zshrc", ajustes + "precmd() { echo . >>\"$HOME/prompts\" }\n");
+    EXPECT_EQ(escritorio.correr({"mkdir", "-p", home.dentro(".config/fish")}).codigo, 0);
+    home.escribir(".config/fish/config.fish", "set -x PATH \"$HOME/propios\" $PATH\n");
+    home.escribir("ajustes.sh", ajustes);
+    escritorio.variables["ENV"] = home.dentro("ajustes.sh");
   }
 
   void abrir(std::string const& directorio) const {
@@ -42,14 +42,14 @@ class Ventana {
   }
   [[nodiscard]] bool hayPrompts(std::size_t cuantos) const {
     return esperarA(
-        [&] { return leerArchivoDePrueba(escritorio.casa().dentro("prompts")).size() >= 2 * cuantos; });
+        [&] { return leerArchivoDePrueba(escritorio.home().dentro("prompts")).size() >= 2 * cuantos; });
   }
   [[nodiscard]] static bool llegaA(pid_t pid, char estado) {
     return esperarA([&] { return procesoDe(pid).estado == estado; });
   }
   [[nodiscard]] bool leyo(Anotado const& sesion, std::string const& linea,
                           std::chrono::seconds plazo = std::chrono::seconds{20}) const {
-    auto const ruta = escritorio.casa().dentro("teclas/" + std::to_string(sesion.pid));
+    auto const ruta = escritorio.home().dentro("teclas/" + std::to_string(sesion.pid));
     return esperarA([&] { return leerArchivoDePrueba(ruta).ends_with(linea + "\n"); }, plazo);
   }
   /// A window that is just opening may miss keys: types until the session has read a whole line.
@@ -64,7 +64,7 @@ class Ventana {
   [[nodiscard]] bool empiezaCon(std::string const& linea) const {
     return esperarA([&] {
       teclado.linea(linea);
-      auto const anotados = escritorio.casa().dentro("anotados");
+      auto const anotados = escritorio.home().dentro("anotados");
       return esperarA([&] { return !std::filesystem::is_empty(anotados); }, std::chrono::seconds{1});
     });
   }
@@ -80,7 +80,7 @@ class TeclasEnCadaTerminal : public DeUnTerminal {
  protected:
   static void detenerSeguirTerminarYRepetir(std::string const& shell) {
     Ventana const ventana{GetParam(), shell};
-    ventana.abrir(ventana.escritorio.casa().ruta());
+    ventana.abrir(ventana.escritorio.home().ruta());
     auto const& teclado = ventana.teclado;
     auto const primera = ventana.sesion(1);
     ASSERT_GT(primera.pid, 0);
@@ -108,7 +108,7 @@ class TeclasEnCadaTerminal : public DeUnTerminal {
 
   static void correrLaLineaYQuedarse(std::string const& shell) {
     Ventana const ventana{GetParam(), shell};
-    ventana.abrir(ventana.escritorio.casa().ruta());
+    ventana.abrir(ventana.escritorio.home().ruta());
     auto const primera = ventana.sesion(1);
     EXPECT_EQ(primera.args, (std::vector<std::string>{"-r", "un id"}));
     ASSERT_TRUE(ventana.escucha(primera));
@@ -137,23 +137,23 @@ TEST_P(TeclasEnCadaTerminal, largoDashCorreLaLineaYSeQueda) { correrLaLineaYQued
 
 TEST_P(TeclasEnCadaTerminal, largoUnDirectorioQueYaNoEstaDejaUnaShellQueNoHaCorridoNada) {
   Ventana const ventana{GetParam(), "/bin/bash"};
-  ventana.abrir(ventana.escritorio.casa().dentro("perdido"));
+  ventana.abrir(ventana.escritorio.home().dentro("perdido"));
   ASSERT_TRUE(ventana.empiezaCon("claude sigo"));
   EXPECT_EQ(ventana.sesion(1).args, (std::vector<std::string>{"sigo"}));
 }
 
 TEST_P(TeclasEnCadaTerminal, largoSinClaudeQuedaUnaShellQueLoHaDicho) {
   Ventana const ventana{GetParam(), "/bin/bash"};
-  auto const& casa = ventana.escritorio.casa();
-  auto const propios = casa.dentro("propios");
+  auto const& home = ventana.escritorio.home();
+  auto const propios = home.dentro("propios");
   std::filesystem::rename(propios + "/claude", propios + "/otro");
-  casa.escribir(".bashrc",
+  home.escribir(".bashrc",
                 "PATH=\"$HOME/propios:$PATH\"\n"
                 "command_not_found_handle() { echo \"$@\" >>\"$HOME/falta\"; }\n");
-  ventana.abrir(casa.ruta());
+  ventana.abrir(home.ruta());
   ASSERT_TRUE(ventana.empiezaCon("otro sigo"));
   EXPECT_EQ(ventana.sesion(1).args, (std::vector<std::string>{"sigo"}));
-  EXPECT_TRUE(leerArchivoDePrueba(casa.dentro("falta")).starts_with("claude -r un id\n"));
+  EXPECT_TRUE(leerArchivoDePrueba(home.dentro("falta")).starts_with("claude -r un id\n"));
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ class TmuxEnPestana : public testing::TestWithParam<std::string> {
   }
 
   [[nodiscard]] bool abrirlas() {
-    auto const claude = s.escritorio.casa().dentro("propios/claude");
+    auto const claude = s.escritorio.home().dentro("propios/claude");
     return s.abrirVentana() && s.hacer(tmux({"-f", "/dev/null", "new-session", "-d", claude})) &&
            s.esperarOtra() && s.hacer(tmux({"new-window", claude})) && s.esperarOtra() &&
            s.hacer(tmux({"set-option", "-g", "set-titles", "on"})) && abrirPestana() &&
@@ -62,7 +62,7 @@ class TmuxEnPestana : public testing::TestWithParam<std::string> {
   }
 
   Sesiones s{*fichaDeLinux(GetParam()), Escritorio::Pantalla::x11};
-  std::string enchufe = s.escritorio.casa().dentro("r/tmux");
+  std::string enchufe = s.escritorio.home().dentro("r/tmux");
 };
 
 INSTANTIATE_TEST_SUITE_P(Linux, TmuxEnPestana, testing::Values("org.kde.konsole", "org.gnome.Terminal"),

@@ -31,10 +31,10 @@ TEST_F(ConTmux, unClienteSinVentanaAquiSeDiceYSigueDondeEstaba) {
 
 TEST_F(ConTmux, unaTerminalDesconocidaQueEmpezoEnUnPaneNoEsUnPane) {
   auto const uno = pane({"new-session", "-d", "-s", "uno"});
-  auto const otraterm = escritorio.casa().dentro("propios/otraterm");
+  auto const otraterm = escritorio.home().dentro("propios/otraterm");
   std::filesystem::copy_file("/usr/bin/xterm", otraterm);
   ASSERT_EQ(
-      tmux({"new-window", "-d", "-t", "uno", otraterm + " -e " + escritorio.casa().dentro("propios/claude")})
+      tmux({"new-window", "-d", "-t", "uno", otraterm + " -e " + escritorio.home().dentro("propios/claude")})
           .codigo,
       0);
   anotarElNuevo();

@@ -92,9 +92,9 @@ TEST_F(ConTmux, enUnGrupoCadaClienteSigueEnSuSesion) {
 }
 
 TEST_F(ConTmux, unTmuxDentroDeOtroSeMuestraEnteroHastaLaVentana) {
-  auto const dentro = escritorio.casa().dentro("r/dentro");
+  auto const dentro = escritorio.home().dentro("r/dentro");
   auto const fuera = pane({"new-session", "-d", "-s", "fuera"});
-  auto const claude = escritorio.casa().dentro("propios/claude");
+  auto const claude = escritorio.home().dentro("propios/claude");
   ASSERT_EQ(tmux({"new-session", "-d", "-s", "dentro", claude}, dentro).codigo, 0);
   anotarElNuevo();
   ASSERT_EQ(tmux({"new-window", "-d", "-t", "fuera", "TMUX= tmux -S " + dentro + " attach; read"}).codigo, 0);
@@ -106,8 +106,8 @@ TEST_F(ConTmux, unTmuxDentroDeOtroSeMuestraEnteroHastaLaVentana) {
 }
 
 TEST_F(ConTmux, unPaneCuyoProgramaNoConoceSuEnchufeEstaEnElDeCostumbre) {
-  escritorio.variables["TMUX_TMPDIR"] = escritorio.casa().dentro("r");
-  auto const claude = escritorio.casa().dentro("propios/claude");
+  escritorio.variables["TMUX_TMPDIR"] = escritorio.home().dentro("r");
+  auto const claude = escritorio.home().dentro("propios/claude");
   auto const corrida =
       escritorio.correr({"tmux", "-f", "/dev/null", "new-session", "-d", "exec env -u TMUX " + claude});
   ASSERT_EQ(corrida.codigo, 0) << corrida.error;

@@ -35,8 +35,8 @@ class ZorvectlEnXterm : public testing::Test {
     return escritorio.correr(std::move(palabras));
   }
   void conSesionEn(std::string const& cwd) const {
-    escritorio.casa().escribir(std::string{".claude/projects/p/"} + sesion + ".jsonl", "{}\n");
-    escritorio.casa().escribir(".claude/history.jsonl",
+    escritorio.home().escribir(std::string{".claude/projects/p/"} + sesion + ".jsonl", "{}\n");
+    escritorio.home().escribir(".claude/history.jsonl",
                                R"({"display":"hola","timestamp":1700000000000,"project":)" +
                                    literalJson(cwd) + R"(,"sessionId":")" + sesion + "\"}\n");
   }
@@ -53,20 +53,20 @@ class ZorvectlEnXterm : public testing::Test {
 
 TEST_F(ZorvectlEnXterm, openReabreUnaSesionEnSuCarpetaHostil) {
   ASSERT_TRUE(programaInstalado("xterm"));
-  auto const directorio = escritorio.casa().carpeta(nombreHostil);
+  auto const directorio = escritorio.home().carpeta(nombreHostil);
   conSesionEn(directorio);
   ASSERT_EQ(zorvectl({"choose", "xterm"}).codigo, 0);
   auto const corrida = zorvectl({"open", "1111"});
   ASSERT_EQ(corrida.codigo, 0) << corrida.error;
   EXPECT_EQ(corrida.salida + corrida.error, "");
   anotaron(directorio, {"-r", sesion});
-  EXPECT_FALSE(std::filesystem::exists(escritorio.casa().dentro("X")));
+  EXPECT_FALSE(std::filesystem::exists(escritorio.home().dentro("X")));
 }
 
 TEST_F(ZorvectlEnXterm, openLlevaCadaByteDeCarpetaYOrden) {
   ASSERT_TRUE(programaInstalado("xterm"));
   std::string const raro = std::string{"\xFF\xFE "} + nombreHostil;
-  auto const directorio = escritorio.casa().carpeta(raro);
+  auto const directorio = escritorio.home().carpeta(raro);
   auto const corrida = zorvectl(
       {"open", "--cwd", directorio, "--command", "claude -r " + palabraDeShell(raro), "--terminal", "xterm"});
   ASSERT_EQ(corrida.codigo, 0) << corrida.error;

@@ -169,18 +169,18 @@ TEST_F(Ayudante, laCarpetaDeEjecucionDeOtraPersonaNoRecibeNada) {
   auto const ajena = carpeta.carpeta("ajena");
   ASSERT_EQ(::chown(ajena.c_str(), 61002, 61002), 0);
   std::filesystem::permissions(ajena, std::filesystem::perms{0777});
-  auto const casa = carpeta.carpeta("casa");
-  ASSERT_EQ(::chown(casa.c_str(), 61001, 61001), 0);
+  auto const home = carpeta.carpeta("home");
+  ASSERT_EQ(::chown(home.c_str(), 61001, 61001), 0);
   auto const copia = carpeta.dentro("zorve-terminal");
   std::filesystem::copy_file(ZORVE_TERMINAL, copia);
   auto const corrida = dobles::correr({"/usr/bin/setpriv", "--reuid", "61001", "--regid", "61001",
                                        "--clear-groups", copia, "open", "xterm", "/", "x"},
                                       {{"PATH", carpeta.dentro("bin") + ":/usr/bin:/bin"},
-                                       {"HOME", casa},
+                                       {"HOME", home},
                                        {"XDG_RUNTIME_DIR", ajena},
                                        {"TMPDIR", ajena}});
   EXPECT_EQ(corrida.codigo, 5) << corrida.error;
-  auto const todas = leer(casa + "/palabras");
+  auto const todas = leer(home + "/palabras");
   EXPECT_TRUE(todas.starts_with("-e\n/bin/sh\n/tmp/zorve-")) << todas;
 }
 

@@ -22,19 +22,19 @@ class LugarDePasoTest : public testing::Test {
     return ruta;
   }
   dobles::CarpetaTemporal carpeta;
-  std::string casa = carpeta.carpeta("casa");
+  std::string home = carpeta.carpeta("home");
 };
 
 TEST_F(LugarDePasoTest, esLaCarpetaDeEjecucionSiEsMiaYEstaCerradaALosDemas) {
   auto const r = cerrada("r");
-  EXPECT_EQ(lugarDePaso(r, casa), (LugarDePaso{r, true}));
+  EXPECT_EQ(lugarDePaso(r, home), (LugarDePaso{r, true}));
 }
 
 TEST_F(LugarDePasoTest, unaAbiertaRelativaAusenteOConLetrasRarasNoCuenta) {
   auto const abierta = carpeta.carpeta("abierta");
   for (auto const& cual :
        {abierta, std::string{"r"}, std::string{}, carpeta.dentro("nada"), cerrada("con blanco")}) {
-    EXPECT_EQ(lugarDePaso(cual, casa), deTodos) << cual;
+    EXPECT_EQ(lugarDePaso(cual, home), deTodos) << cual;
   }
 }
 
@@ -42,14 +42,14 @@ TEST_F(LugarDePasoTest, laDeOtraPersonaNoCuenta) {
   if (::geteuid() != 0) GTEST_SKIP() << "only root can make a folder of another user";
   auto const r = cerrada("r");
   ASSERT_EQ(::chown(r.c_str(), alguien, alguien), 0);
-  EXPECT_EQ(lugarDePaso(r, casa), deTodos);
+  EXPECT_EQ(lugarDePaso(r, home), deTodos);
 }
 
 TEST_F(LugarDePasoTest, siNoLaHayEsLaReservaDeLaCasaDondeNadieMasEscribe) {
-  auto const reserva = carpeta.carpeta("casa/.cache");
-  EXPECT_EQ(lugarDePaso("", casa), (LugarDePaso{reserva, true}));
+  auto const reserva = carpeta.carpeta("home/.cache");
+  EXPECT_EQ(lugarDePaso("", home), (LugarDePaso{reserva, true}));
   std::filesystem::permissions(reserva, std::filesystem::perms{01777});
-  EXPECT_EQ(lugarDePaso("", casa), deTodos);
+  EXPECT_EQ(lugarDePaso("", home), deTodos);
 }
 
 TEST(CarpetaDePaso, seVaConTodoLoSuyoSalvoSiSeDeja) {

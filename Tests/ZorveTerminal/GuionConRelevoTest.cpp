@@ -4,12 +4,12 @@
 #include <string>
 #include <vector>
 
-#include "ZorveTerminal/CasaConShell.h"
+#include "ZorveTerminal/HomeConShell.h"
 
 namespace zorve::ayudante {
 namespace {
 
-using Casa = dobles::CasaConShell;
+using Home = dobles::HomeConShell;
 
 /// Settings of one shell that put another in its place: the shell, its file, what that says, who comes.
 struct Relevo {
@@ -25,10 +25,10 @@ void PrintTo(Relevo const& relevo, std::ostream* salida) { *salida << relevo.nom
 class GuionConRelevo : public testing::TestWithParam<Relevo> {
  protected:
   GuionConRelevo() {
-    casa.carpeta().escribir(GetParam().ajustes,
+    home.carpeta().escribir(GetParam().ajustes,
                             "PATH=\"$HOME/mis programas:$PATH\"\n" + GetParam().orden + "\n");
   }
-  Casa casa{GetParam().shell};
+  Home home{GetParam().shell};
 };
 
 INSTANTIATE_TEST_SUITE_P(
@@ -45,43 +45,43 @@ INSTANTIATE_TEST_SUITE_P(
     [](auto const& caso) { return caso.param.nombre; });
 
 TEST_P(GuionConRelevo, laOtraShellCorreLaLineaUnaVezYSeQueda) {
-  casa.claude(
+  home.claude(
       "printf '%s\\0' \"$(pwd -P; echo .)\" \"$@\" >>\"$HOME/anotado\"; ps -o comm= -p $(ps -o sid= -p $$); "
       "echo AQUI\n");
-  auto terminal = casa.abrir(casa.sesion(), "claude -r 'un id'");
+  auto terminal = home.abrir(home.sesion(), "claude -r 'un id'");
   ASSERT_TRUE(terminal.esperar(GetParam().llega)) << terminal.pantalla();
   ASSERT_TRUE(terminal.esperar("AQUI")) << terminal.pantalla();
   ASSERT_TRUE(terminal.esperar("LISTO> ")) << terminal.pantalla();
-  EXPECT_EQ(casa.anotado(), (std::vector<std::string>{casa.sesion(), "-r", "un id"}));
+  EXPECT_EQ(home.anotado(), (std::vector<std::string>{home.sesion(), "-r", "un id"}));
   terminal.escribir("echo su\"\"ma\n");
   EXPECT_TRUE(terminal.esperar("suma")) << terminal.pantalla();
 }
 
 TEST_P(GuionConRelevo, noQuedaNadaNuestroNiEnElEntornoNiEnElDisco) {
-  auto terminal = casa.abrir(casa.sesion(), "env >\"$HOME/entorno\"; echo AQUI");
+  auto terminal = home.abrir(home.sesion(), "env >\"$HOME/entorno\"; echo AQUI");
   ASSERT_TRUE(terminal.esperar("AQUI")) << terminal.pantalla();
   ASSERT_TRUE(terminal.esperar("LISTO> ")) << terminal.pantalla();
   terminal.escribir("env >>\"$HOME/entorno\"; echo fi\"\"nal\n");
   ASSERT_TRUE(terminal.esperar("final")) << terminal.pantalla();
-  auto const entorno = "\n" + casa.leer("entorno");
-  EXPECT_TRUE(entorno.contains("ENV=" + casa.carpeta().dentro(".shrc") + "\n"));
+  auto const entorno = "\n" + home.leer("entorno");
+  EXPECT_TRUE(entorno.contains("ENV=" + home.carpeta().dentro(".shrc") + "\n"));
   for (auto const* const nuestro :
        {"\nZORVE_", "temporal/zorve", "ZDOTDIR", "XDG_DATA_DIRS", "PROMPT_COMMAND"}) {
     EXPECT_FALSE(entorno.contains(nuestro)) << entorno;
   }
-  casa.noQuedanCarpetas();
+  home.noQuedanCarpetas();
 }
 
 TEST(GuionConRelevos, unaShellQueSoloEmpiezaComoHijaDeLosAjustesNoCorreLaLinea) {
-  Casa const casa{"/bin/bash"};
-  casa.carpeta().escribir(
+  Home const home{"/bin/bash"};
+  home.carpeta().escribir(
       ".bashrc",
       "PATH=\"$HOME/mis programas:$PATH\"\nzsh -i -c 'echo hija'; fish -i -c 'echo hija'\n"
       "PS1='LISTO> '\n# exec zsh\n");
-  casa.claude("ps -o comm= -p $PPID >>\"$HOME/anotado\"\n");
-  auto terminal = casa.abrir(casa.sesion(), "claude");
+  home.claude("ps -o comm= -p $PPID >>\"$HOME/anotado\"\n");
+  auto terminal = home.abrir(home.sesion(), "claude");
   ASSERT_TRUE(terminal.esperar("LISTO> ")) << terminal.pantalla();
-  EXPECT_EQ(casa.leer("anotado"), "bash\n") << terminal.pantalla();
+  EXPECT_EQ(home.leer("anotado"), "bash\n") << terminal.pantalla();
 }
 
 }  // namespace

@@ -11,13 +11,13 @@
 #include "Dobles/Pseudoterminal.h"
 #include "ZorveCore/Texto/Escape.h"
 #include "ZorveTerminal/CarpetaDePaso.h"
-#include "ZorveTerminal/CasaConShell.h"
+#include "ZorveTerminal/HomeConShell.h"
 #include "ZorveTerminal/PalabrasDelGuion.h"
 
 namespace zorve::ayudante {
 namespace {
 
-using Casa = dobles::CasaConShell;
+using Home = dobles::HomeConShell;
 using dobles::CarpetaTemporal;
 using dobles::Pseudoterminal;
 
@@ -31,11 +31,11 @@ INSTANTIATE_TEST_SUITE_P(Shells, GuionEnCadaShell,
                          [](auto const& shell) { return shell.param.substr(shell.param.rfind('/') + 1); });
 
 TEST_P(GuionEnCadaShell, corraLaLineaConLosAjustesDeLaPersonaYSeQueda) {
-  Casa const casa{GetParam()};
-  auto terminal = casa.abrir(casa.sesion(), "claude -r 'un id'");
+  Home const home{GetParam()};
+  auto terminal = home.abrir(home.sesion(), "claude -r 'un id'");
   ASSERT_TRUE(terminal.esperar("AQUI")) << terminal.pantalla();
   ASSERT_TRUE(terminal.esperar("LISTO> ")) << terminal.pantalla();
-  EXPECT_EQ(casa.anotado(), (std::vector<std::string>{casa.sesion(), "-r", "un id"}));
+  EXPECT_EQ(home.anotado(), (std::vector<std::string>{home.sesion(), "-r", "un id"}));
   terminal.escribir("echo su\"\"ma\n");
   EXPECT_TRUE(terminal.esperar("suma")) << terminal.pantalla();
   terminal.escribir("exit\n");
@@ -43,36 +43,36 @@ TEST_P(GuionEnCadaShell, corraLaLineaConLosAjustesDeLaPersonaYSeQueda) {
 }
 
 TEST_P(GuionEnCadaShell, losBytesRarosLleganTalComoSon) {
-  Casa const casa{GetParam()};
+  Home const home{GetParam()};
   std::string const raro =
       "-a 'b'\"c\" $HOME `id` $(id) \\ \\\\n ;&|<>*?[x]{y,z}~!#%\t\n\x01\x1b[31m\x7f ñ 日 \xff\xfe\n";
-  auto const directorio = casa.carpeta().carpeta(raro);
-  auto terminal = casa.abrir(directorio, "claude -r " + palabraDeShell(raro));
+  auto const directorio = home.carpeta().carpeta(raro);
+  auto terminal = home.abrir(directorio, "claude -r " + palabraDeShell(raro));
   ASSERT_TRUE(terminal.esperar("AQUI")) << terminal.pantalla();
-  EXPECT_EQ(casa.anotado(),
+  EXPECT_EQ(home.anotado(),
             (std::vector<std::string>{std::filesystem::canonical(directorio).string(), "-r", raro}));
 }
 
 TEST_P(GuionEnCadaShell, unDirectorioQueYaNoEstaDejaElAvisoYUnaShellSinCorrerNada) {
-  Casa const casa{GetParam()};
-  auto terminal = casa.abrir(casa.carpeta().dentro("perdida"), "claude -r x");
+  Home const home{GetParam()};
+  auto terminal = home.abrir(home.carpeta().dentro("perdida"), "claude -r x");
   ASSERT_TRUE(terminal.esperar("perdida")) << terminal.pantalla();
   ASSERT_TRUE(terminal.esperar("LISTO> ")) << terminal.pantalla();
-  EXPECT_TRUE(casa.anotado().empty());
+  EXPECT_TRUE(home.anotado().empty());
 }
 
 TEST_P(GuionEnCadaShell, sinClaudeLaShellLoDiceYSeQueda) {
-  Casa const casa{GetParam()};
-  std::filesystem::remove(casa.carpeta().dentro("mis programas/claude"));
-  auto terminal = casa.abrir(casa.sesion(), "claude -r x");
+  Home const home{GetParam()};
+  std::filesystem::remove(home.carpeta().dentro("mis programas/claude"));
+  auto terminal = home.abrir(home.sesion(), "claude -r x");
   ASSERT_TRUE(terminal.esperar("not found")) << terminal.pantalla();
   EXPECT_TRUE(terminal.esperar("LISTO> ")) << terminal.pantalla();
 }
 
 TEST_P(GuionEnCadaShell, controlCTerminaLaOrdenYNoLaShell) {
-  Casa const casa{GetParam()};
-  casa.claude("echo EN MARCHA; while :; do read -r linea; done\n");
-  auto terminal = casa.abrir(casa.sesion(), "claude -r x");
+  Home const home{GetParam()};
+  home.claude("echo EN MARCHA; while :; do read -r linea; done\n");
+  auto terminal = home.abrir(home.sesion(), "claude -r x");
   ASSERT_TRUE(terminal.esperar("EN MARCHA")) << terminal.pantalla();
   terminal.escribir(controlC);
   ASSERT_TRUE(terminal.esperar("LISTO> ")) << terminal.pantalla();
@@ -81,21 +81,21 @@ TEST_P(GuionEnCadaShell, controlCTerminaLaOrdenYNoLaShell) {
 }
 
 TEST_P(GuionEnCadaShell, noDejaArchivosNiVariables) {
-  Casa const casa{GetParam()};
-  casa.claude("env | grep -a ZORVE_; echo AQUI\n");
-  auto terminal = casa.abrir(casa.sesion(), "claude");
+  Home const home{GetParam()};
+  home.claude("env | grep -a ZORVE_; echo AQUI\n");
+  auto terminal = home.abrir(home.sesion(), "claude");
   ASSERT_TRUE(terminal.esperar("AQUI")) << terminal.pantalla();
   ASSERT_TRUE(terminal.esperar("LISTO> ")) << terminal.pantalla();
   terminal.escribir("env | grep -a ZORV[E]_; echo fi\"\"nal\n");
   ASSERT_TRUE(terminal.esperar("final")) << terminal.pantalla();
   EXPECT_FALSE(terminal.pantalla().contains("ZORVE_")) << terminal.pantalla();
-  casa.noQuedanCarpetas();
+  home.noQuedanCarpetas();
 }
 
 TEST_P(GuionEnCadaShell, laShellSabeQuienEs) {
-  Casa const casa{GetParam()};
-  casa.claude("echo \"$SHELL.\"\n");
-  auto terminal = casa.abrir(casa.sesion(), "claude");
+  Home const home{GetParam()};
+  home.claude("echo \"$SHELL.\"\n");
+  auto terminal = home.abrir(home.sesion(), "claude");
   EXPECT_TRUE(terminal.esperar(GetParam() + ".")) << terminal.pantalla();
 }
 
@@ -105,9 +105,9 @@ INSTANTIATE_TEST_SUITE_P(Shells, GuionConTrabajos, testing::Values("/bin/bash", 
                          [](auto const& shell) { return shell.param.substr(shell.param.rfind('/') + 1); });
 
 TEST_P(GuionConTrabajos, controlZLaDetieneYFgLaSigue) {
-  Casa const casa{GetParam()};
-  casa.claude("trap 'echo SIGUE' CONT; echo EN MARCHA; while :; do read -r linea; done\n");
-  auto terminal = casa.abrir(casa.sesion(), "claude -r x");
+  Home const home{GetParam()};
+  home.claude("trap 'echo SIGUE' CONT; echo EN MARCHA; while :; do read -r linea; done\n");
+  auto terminal = home.abrir(home.sesion(), "claude -r x");
   ASSERT_TRUE(terminal.esperar("EN MARCHA")) << terminal.pantalla();
   terminal.escribir(controlZ);
   ASSERT_TRUE(terminal.esperar("LISTO> ")) << terminal.pantalla();
@@ -121,17 +121,17 @@ TEST_P(GuionConTrabajos, controlZLaDetieneYFgLaSigue) {
 
 /// fish runs programs of its own at its start.
 TEST_P(GuionConTrabajos, ningunProgramaDelDirectorioHaceElTrabajoDelGuion) {
-  Casa const casa{GetParam()};
+  Home const home{GetParam()};
   for (auto const* const nombre : {"grep", "mktemp", "rm", "rmdir", "mkdir", "cat"}) {
     auto const ruta =
-        casa.carpeta().escribir(std::string{"sesión/"} + nombre, "#!/bin/sh\n: >\"$HOME/ajeno\"\n");
+        home.carpeta().escribir(std::string{"sesión/"} + nombre, "#!/bin/sh\n: >\"$HOME/ajeno\"\n");
     std::filesystem::permissions(ruta, std::filesystem::perms{0755});
   }
-  auto terminal = casa.abrir(casa.sesion(), "echo AQUI", ".::/usr/local/bin:/usr/bin:/bin");
+  auto terminal = home.abrir(home.sesion(), "echo AQUI", ".::/usr/local/bin:/usr/bin:/bin");
   ASSERT_TRUE(terminal.esperar("AQUI")) << terminal.pantalla();
   ASSERT_TRUE(terminal.esperar("LISTO> ")) << terminal.pantalla();
-  EXPECT_FALSE(std::filesystem::exists(casa.carpeta().dentro("ajeno")));
-  casa.noQuedanCarpetas();
+  EXPECT_FALSE(std::filesystem::exists(home.carpeta().dentro("ajeno")));
+  home.noQuedanCarpetas();
 }
 
 class GuionConHistorial : public testing::TestWithParam<std::string> {};
@@ -140,50 +140,50 @@ INSTANTIATE_TEST_SUITE_P(Shells, GuionConHistorial, testing::Values("/bin/bash",
                          [](auto const& shell) { return shell.param.substr(shell.param.rfind('/') + 1); });
 
 TEST_P(GuionConHistorial, laOrdenQuedaEnElHistorial) {
-  Casa const casa{GetParam()};
-  auto terminal = casa.abrir(casa.sesion(), "claude -r 'un id'");
+  Home const home{GetParam()};
+  auto terminal = home.abrir(home.sesion(), "claude -r 'un id'");
   ASSERT_TRUE(terminal.esperar("LISTO> ")) << terminal.pantalla();
   terminal.escribir("fc -l\n");
   EXPECT_TRUE(terminal.esperar("claude -r 'un id'")) << terminal.pantalla();
 }
 
 TEST(GuionEnBash, elPromptDeLaPersonaSeCalculaTambienLaPrimeraVezYVeElEstado) {
-  Casa const casa{"/bin/bash"};
-  casa.carpeta().escribir(".bashrc",
+  Home const home{"/bin/bash"};
+  home.carpeta().escribir(".bashrc",
                           "PATH=\"$HOME/mis programas:$PATH\"\nmio() { PS1=\"estado $? LISTO> \"; }\n"
                           "PROMPT_COMMAND=mio\n");
-  casa.claude("exit 7\n");
-  auto terminal = casa.abrir(casa.sesion(), "claude");
+  home.claude("exit 7\n");
+  auto terminal = home.abrir(home.sesion(), "claude");
   EXPECT_TRUE(terminal.esperar("estado 7 LISTO> ")) << terminal.pantalla();
   terminal.escribir("false\n");
   EXPECT_TRUE(terminal.esperar("estado 1 LISTO> ")) << terminal.pantalla();
 }
 
 TEST(GuionEnBash, unaListaDeOrdenesDelPromptSigueSiendoUnaLista) {
-  Casa const casa{"/bin/bash"};
-  casa.carpeta().escribir(".bashrc", "PROMPT_COMMAND=('PS1=\"uno \"' 'PS1+=\"dos LISTO> \"')\n");
-  auto terminal = casa.abrir(casa.sesion(), "true");
+  Home const home{"/bin/bash"};
+  home.carpeta().escribir(".bashrc", "PROMPT_COMMAND=('PS1=\"uno \"' 'PS1+=\"dos LISTO> \"')\n");
+  auto terminal = home.abrir(home.sesion(), "true");
   ASSERT_TRUE(terminal.esperar("uno dos LISTO> ")) << terminal.pantalla();
   terminal.escribir("declare -p PROMPT_COMMAND\n");
   EXPECT_TRUE(terminal.esperar("declare -a PROMPT_COMMAND=([0]=")) << terminal.pantalla();
 }
 
 TEST(GuionEnZsh, laCarpetaDeAjustesDeLaPersonaSigueSiendoLaSuya) {
-  Casa const casa{"/bin/zsh"};
-  casa.carpeta().escribir(".zshenv", "export ZDOTDIR=$HOME/ajustes\n");
-  casa.carpeta().escribir("ajustes/.zshrc", "PS1='OTRO LISTO> '\nunsetopt PROMPT_SP\n");
-  auto terminal = casa.abrir(casa.sesion(), "true");
+  Home const home{"/bin/zsh"};
+  home.carpeta().escribir(".zshenv", "export ZDOTDIR=$HOME/ajustes\n");
+  home.carpeta().escribir("ajustes/.zshrc", "PS1='OTRO LISTO> '\nunsetopt PROMPT_SP\n");
+  auto terminal = home.abrir(home.sesion(), "true");
   ASSERT_TRUE(terminal.esperar("OTRO LISTO> ")) << terminal.pantalla();
   terminal.escribir("echo \"[$ZDOTDIR]\"\n");
-  EXPECT_TRUE(terminal.esperar("[" + casa.carpeta().dentro("ajustes") + "]")) << terminal.pantalla();
+  EXPECT_TRUE(terminal.esperar("[" + home.carpeta().dentro("ajustes") + "]")) << terminal.pantalla();
 }
 
 TEST(Guion, unDirectorioQueEmpiezaPorGuionNoEsUnaOpcion) {
-  Casa const casa{"/bin/dash"};
-  casa.carpeta().carpeta("-");
-  auto terminal = casa.abrir("-", "claude");
+  Home const home{"/bin/dash"};
+  home.carpeta().carpeta("-");
+  auto terminal = home.abrir("-", "claude");
   ASSERT_TRUE(terminal.esperar("AQUI")) << terminal.pantalla();
-  EXPECT_EQ(casa.anotado().at(0), std::filesystem::canonical(casa.carpeta().dentro("-")).string());
+  EXPECT_EQ(home.anotado().at(0), std::filesystem::canonical(home.carpeta().dentro("-")).string());
 }
 
 TEST(Guion, laCasaDeLaPersonaPuedeSerOtraQueLaQueDiceElTerminal) {
@@ -203,7 +203,7 @@ TEST(Guion, laCasaDeLaPersonaPuedeSerOtraQueLaQueDiceElTerminal) {
 TEST(Guion, lasPalabrasSoloNombranLaCarpetaQueNadieMasAbre) {
   CarpetaTemporal const carpeta;
   CarpetaDePaso const paso{{carpeta.ruta(), true}};
-  auto const palabras = palabrasDelGuion({"/un/secreto", "claude -r 'x'", "/bin/bash", "/casa"}, paso, {});
+  auto const palabras = palabrasDelGuion({"/un/secreto", "claude -r 'x'", "/bin/bash", "/home"}, paso, {});
   EXPECT_EQ(palabras, (std::vector<std::string>{"/bin/sh", paso.ruta() + "/orden"}));
   EXPECT_EQ(std::filesystem::status(paso.ruta()).permissions(), std::filesystem::perms{0700});
   EXPECT_EQ(std::filesystem::status(paso.ruta() + "/orden").permissions(), std::filesystem::perms{0600});
@@ -213,19 +213,19 @@ TEST(Guion, lasPalabrasSoloNombranLaCarpetaQueNadieMasAbre) {
 /// The settings put tmux in the shell's place: what they were handed lives on in its server.
 class GuionYTmux : public testing::TestWithParam<std::string> {
  protected:
-  [[nodiscard]] std::string entornoEnTmux(Casa const& casa) const {
+  [[nodiscard]] std::string entornoEnTmux(Home const& home) const {
     auto const dentro = "env >\"$HOME/entorno\"; : >\"$HOME/hecho\"";
-    casa.carpeta().escribir("dentro", dentro);
+    home.carpeta().escribir("dentro", dentro);
     auto const ajustes = "TERM=xterm; [ -n \"$TMUX\" ] || exec tmux -f /dev/null -S " +
-                         casa.carpeta().dentro("t") + " new-session '. ~/dentro'\n";
+                         home.carpeta().dentro("t") + " new-session '. ~/dentro'\n";
     for (auto const* const archivo : {".bashrc", ".shrc", ".zshrc"})
-      casa.carpeta().escribir(archivo, ajustes);
-    auto terminal = casa.abrir(casa.sesion(), "claude -r secreto");
-    for (int i = 0; i < 400 && !std::filesystem::exists(casa.carpeta().dentro("hecho")); ++i) {
+      home.carpeta().escribir(archivo, ajustes);
+    auto terminal = home.abrir(home.sesion(), "claude -r secreto");
+    for (int i = 0; i < 400 && !std::filesystem::exists(home.carpeta().dentro("hecho")); ++i) {
       (void)terminal.esperar("nunca", std::chrono::seconds{0});
       std::this_thread::sleep_for(std::chrono::milliseconds{25});
     }
-    return "\n" + casa.leer("entorno");
+    return "\n" + home.leer("entorno");
   }
 };
 
@@ -233,27 +233,27 @@ INSTANTIATE_TEST_SUITE_P(Shells, GuionYTmux, testing::Values("/bin/bash", "/bin/
                          [](auto const& shell) { return shell.param.substr(shell.param.rfind('/') + 1); });
 
 TEST_P(GuionYTmux, enSuServidorNoQuedaNiLaLineaNiUnaCarpetaQueOtrosPuedanRehacer) {
-  Casa casa{GetParam()};
-  casa.lugar.privado = false;
-  auto const entorno = entornoEnTmux(casa);
+  Home home{GetParam()};
+  home.lugar.privado = false;
+  auto const entorno = entornoEnTmux(home);
   ASSERT_TRUE(entorno.contains("\nTMUX=")) << entorno;
   EXPECT_FALSE(entorno.contains("secreto")) << entorno;
-  EXPECT_FALSE(entorno.contains(casa.lugar.carpeta + "/zorve-")) << entorno;
+  EXPECT_FALSE(entorno.contains(home.lugar.carpeta + "/zorve-")) << entorno;
 }
 
 /// The environment within tmux, which the settings of zsh put in its place; `orden` runs there.
 std::string entornoEnTmuxDeZsh(std::string const& orden) {
-  Casa const casa{"/bin/zsh"};
-  casa.carpeta().escribir("dentro", "env >~/entorno; : >~/hecho\n");
-  casa.carpeta().escribir(".zshrc", "TERM=xterm\nT=" + casa.carpeta().dentro("t") +
+  Home const home{"/bin/zsh"};
+  home.carpeta().escribir("dentro", "env >~/entorno; : >~/hecho\n");
+  home.carpeta().escribir(".zshrc", "TERM=xterm\nT=" + home.carpeta().dentro("t") +
                                         "\n[[ -n $TMUX ]] || exec tmux -f /dev/null -S $T new-session '" +
                                         orden + "'\n");
-  auto terminal = casa.abrir(casa.sesion(), "claude -r secreto");
-  for (int i = 0; i < 400 && !std::filesystem::exists(casa.carpeta().dentro("hecho")); ++i) {
+  auto terminal = home.abrir(home.sesion(), "claude -r secreto");
+  for (int i = 0; i < 400 && !std::filesystem::exists(home.carpeta().dentro("hecho")); ++i) {
     (void)terminal.esperar("nunca", std::chrono::seconds{0});
     std::this_thread::sleep_for(std::chrono::milliseconds{25});
   }
-  auto const entorno = "\n" + casa.leer("entorno");
+  auto const entorno = "\n" + home.leer("entorno");
   EXPECT_TRUE(entorno.contains("\nTMUX=")) << entorno << terminal.pantalla();
   return entorno;
 }

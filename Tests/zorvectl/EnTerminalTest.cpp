@@ -5,7 +5,7 @@
 
 #include <unistd.h>
 
-#include "zorvectl/Hogar.h"
+#include "zorvectl/Home.h"
 #include "zorvectl/Terminal.h"
 
 namespace zorve::pruebas {
@@ -14,17 +14,17 @@ namespace {
 class EnTerminal : public testing::Test {
  protected:
   EnTerminal() {
-    hogar.transcripcion(Hogar::uno, aiTitle("Migrar las pruebas a la nueva interfaz de la aplicación"));
-    hogar.historia(prompt(Hogar::uno, "x", hogar.ruta() + "/src/zorve", haceMilisegundos(7'300'000)));
-    hogar.viva("1.json", R"({"pid":)" + std::to_string(::getpid()) + R"(,"sessionId":")" +
-                             std::string{Hogar::uno} + R"(","cwd":"/v","status":"busy"})");
+    home.transcripcion(Home::uno, aiTitle("Migrar las pruebas a la nueva interfaz de la aplicación"));
+    home.historia(prompt(Home::uno, "x", home.ruta() + "/src/zorve", haceMilisegundos(7'300'000)));
+    home.viva("1.json", R"({"pid":)" + std::to_string(::getpid()) + R"(,"sessionId":")" +
+                            std::string{Home::uno} + R"(","cwd":"/v","status":"busy"})");
   }
   std::string lista(unsigned short columnas, std::vector<std::string> entorno = {}) {
-    entorno.push_back("HOME=" + hogar.ruta());
+    entorno.push_back("HOME=" + home.ruta());
     return enTerminal({ZORVECTL, "list"}, columnas, std::move(entorno));
   }
 
-  Hogar hogar;
+  Home home;
 };
 
 TEST_F(EnTerminal, laTablaLlevaColorYCabeEnElAncho) {

@@ -7,7 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "zorvectl/Hogar.h"
+#include "zorvectl/Home.h"
 
 namespace zorve::pruebas {
 
@@ -15,12 +15,12 @@ namespace zorve::pruebas {
 class ZorvectlPlan : public testing::Test {
  protected:
   [[nodiscard]] dobles::Corrida zorvectl(std::vector<std::string> const& palabras) const {
-    return hogar.zorvectl(palabras);
+    return home.zorvectl(palabras);
   }
   void conSesion(std::string_view id, std::string_view cwd) const {
-    hogar.transcripcion(id, "{}\n");
+    home.transcripcion(id, "{}\n");
     historia += prompt(id, "hola", cwd, 1'700'000'000'000);
-    hogar.historia(historia);
+    home.historia(historia);
   }
   void errorDeUso(std::vector<std::string> const& palabras, std::string const& parte) const {
     auto const corrida = zorvectl(palabras);
@@ -37,7 +37,7 @@ class ZorvectlPlan : public testing::Test {
     EXPECT_EQ(corrida.error, "zorvectl: " + linea + "\n");
   }
 
-  Hogar hogar;
+  Home home;
   mutable std::string historia;
 };
 

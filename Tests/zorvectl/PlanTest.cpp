@@ -11,9 +11,9 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 TEST_F(ZorvectlPlan, elPlanDeUnaSesionTerminadaEsElDeSuTerminal) {
-  conSesion(Hogar::uno, "/srv/it's");
+  conSesion(Home::uno, "/srv/it's");
   auto const corrida =
-      zorvectl({"plan", std::string{Hogar::uno}, "--terminal", "com.apple.Terminal", "--json"});
+      zorvectl({"plan", std::string{Home::uno}, "--terminal", "com.apple.Terminal", "--json"});
   EXPECT_EQ(corrida.codigo, 0);
   EXPECT_EQ(corrida.error, "");
   EXPECT_EQ(corrida.salida,
@@ -24,8 +24,8 @@ TEST_F(ZorvectlPlan, elPlanDeUnaSesionTerminadaEsElDeSuTerminal) {
 }
 
 TEST_F(ZorvectlPlan, bastaUnPrefijoQueSoloEllaTenga) {
-  conSesion(Hogar::uno, "/srv/uno");
-  conSesion(Hogar::dos, "/srv/dos");
+  conSesion(Home::uno, "/srv/uno");
+  conSesion(Home::dos, "/srv/dos");
   auto const corrida = zorvectl({"plan", "2", "--terminal", "com.mitchellh.ghostty"});
   EXPECT_EQ(corrida.codigo, 0);
   EXPECT_THAT(corrida.salida, HasSubstr("to \"/srv/dos\""));
@@ -53,7 +53,7 @@ TEST_F(ZorvectlPlan, openNoTecleaCaracteresDeControl) {
 }
 
 TEST_F(ZorvectlPlan, unaSesionDesconocidaEsUnFallo) {
-  conSesion(Hogar::uno, "/a");
+  conSesion(Home::uno, "/a");
   falla({"plan", "zz\x1B[31m", "--terminal", "com.apple.Terminal"},
         "no session has the identifier zz␛[31m or one that begins so");
 }

@@ -5,7 +5,7 @@
 #import "ZorveApp/AppKit/Delegado.h"
 #import "ZorveApp/AppKit/Programa.h"
 #include "ZorvePlatform/MacOS/Cadenas.h"
-#include "ZorvePlatform/MacOS/DirectorioHogarMac.h"
+#include "ZorvePlatform/MacOS/DirectorioHomeMac.h"
 
 namespace {
 
@@ -18,7 +18,7 @@ std::optional<std::string> versionDelBundle() {
 /// Left to the system at the program's end, on purpose.
 zorve::Programa& programa() {
   auto const regla = zorve::reglaDe(zorve::textoDe(NSLocale.currentLocale.localeIdentifier));
-  return *new zorve::Programa{zorve::directorioHogarMac(), regla, versionDelBundle()};
+  return *new zorve::Programa{zorve::directorioHomeMac(), regla, versionDelBundle()};
 }
 
 }  // namespace

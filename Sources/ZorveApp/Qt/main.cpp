@@ -23,7 +23,7 @@
 #include "ZorvePlatform/Linux/RutaDelAyudante.h"
 #include "ZorvePlatform/Posix/ArchivosPosix.h"
 #include "ZorvePlatform/Posix/EjecutorDeProcesos.h"
-#include "ZorvePlatform/Posix/Hogar.h"
+#include "ZorvePlatform/Posix/Home.h"
 #include "ZorvePlatform/Posix/Local.h"
 #include "ZorvePlatform/Posix/ProcesoHijo.h"
 #include "ZorvePlatform/Posix/VidaDeProcesosPosix.h"
@@ -137,7 +137,7 @@ int correr(Testigo const& testigo, std::vector<std::string> entorno) {
         stderr);
     return 1;
   }
-  auto const home = hogarDelUsuario();
+  auto const home = homeDelUsuario();
   if (!home) {
     std::fprintf(stderr, "zorve: %s\n", home.error().c_str());
     return 1;

@@ -20,7 +20,7 @@ class ElPrograma : public ::testing::Test {
  protected:
   ElPrograma() {
     tramoya::reponer();
-    sistema().hogar = carpeta.ruta();
+    sistema().home = carpeta.ruta();
     carpeta.escribir(".claude/projects/-srv-demo/11111111-2222-4333-8444-555555555555.jsonl",
                      "{\"type\":\"ai-title\",\"aiTitle\":\"Hello\"}\n{\"cwd\":\"/srv/demo\"}\n");
   }

@@ -76,7 +76,7 @@ using tramoya::utf8;
   return unico;
 }
 - (NSURL*)homeDirectoryForCurrentUser {
-  return [NSURL fileURLWithPath:texto(sistema().hogar)];
+  return [NSURL fileURLWithPath:texto(sistema().home)];
 }
 @end
 

@@ -75,7 +75,7 @@ struct Sistema {
   std::set<std::string> aplicaciones{"com.apple.Terminal"};
   std::map<std::string, std::string> manejadores{{"com.apple.terminal.shell-script", "com.apple.Terminal"}};
   std::set<std::string> tiposConocidos{"public.unix-executable", "com.apple.terminal.shell-script"};
-  std::string hogar = "/Users/ana";
+  std::string home = "/Users/ana";
   std::string paquete = "com.sarnol.zorve";
   std::optional<std::string> version = "0.1.0";
   std::string region = "en_US";

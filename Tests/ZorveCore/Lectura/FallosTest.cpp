@@ -69,9 +69,9 @@ struct Precio {
   std::string aviso;
 };
 
-Precio precioDe(Llamada llamada, std::string const& ruta, std::string const& casa, std::string const& causa) {
-  auto const proyectos = casa + "/.claude/projects";
-  auto const historia = casa + "/.claude/history.jsonl";
+Precio precioDe(Llamada llamada, std::string const& ruta, std::string const& home, std::string const& causa) {
+  auto const proyectos = home + "/.claude/projects";
+  auto const historia = home + "/.claude/history.jsonl";
   bool const transcripcion = ruta.starts_with(proyectos) && ruta.ends_with(".jsonl");
   if (ruta == historia && llamada == Llamada::existe) return {0, historia + " does not exist. "};
   if (ruta == historia && llamada == Llamada::abrir) return {0, "Could not open " + historia + ": " + causa};

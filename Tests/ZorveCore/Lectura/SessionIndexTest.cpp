@@ -23,22 +23,22 @@ constexpr std::string_view idDos = "22222222-aaaa-4bbb-8ccc-000000000002";
 
 class SessionIndexTest : public testing::Test {
  protected:
-  IndexResult construir() { return construir(SessionIndex::ubicacionesPorDefecto(hogar.ruta())); }
+  IndexResult construir() { return construir(SessionIndex::ubicacionesPorDefecto(home.ruta())); }
   IndexResult construir(Ubicaciones const& donde) {
     ArchivosPosix archivos;
     VidaDeProcesosPosix procesos;
     return SessionIndex::construir(archivos, procesos, donde, voces);
   }
   void transcripcion(std::string_view id, std::string_view lineas) const {
-    hogar.escribir(".claude/projects/p/" + std::string{id} + ".jsonl", lineas);
+    home.escribir(".claude/projects/p/" + std::string{id} + ".jsonl", lineas);
   }
   [[nodiscard]] IndexError bienvenida(std::string const& aqui = "on this Mac") const {
     return {IndexSource::transcripts,
-            "No Claude Code sessions " + aqui + " yet: " + hogar.ruta() +
+            "No Claude Code sessions " + aqui + " yet: " + home.ruta() +
                 "/.claude does not exist. Run `claude` once in a terminal and Zorve will list it here."};
   }
 
-  dobles::CarpetaTemporal hogar;
+  dobles::CarpetaTemporal home;
   VocesDelSistema voces;
 };
 
@@ -56,11 +56,11 @@ TEST_F(SessionIndexTest, enLinuxLaBienvenidaHablaDelEquipo) {
 TEST_F(SessionIndexTest, juntaLasTresFuentes) {
   transcripcion(idUno, "{\"type\":\"ai-title\",\"aiTitle\":\"Título\"}\n");
   transcripcion(idDos, "{\"cwd\":\"/srv/dos\"}\n");
-  hogar.escribir(".claude/history.jsonl",
-                 R"({"display":"p","timestamp":4000000000500,"project":"/h","sessionId":")" +
-                     std::string{idUno} + "\"}\n");
-  hogar.escribir(".claude/sessions/1.json", R"({"pid":)" + std::to_string(::getpid()) + R"(,"sessionId":")" +
-                                                std::string{idDos} + R"(","cwd":"/v","status":"busy"})");
+  home.escribir(".claude/history.jsonl",
+                R"({"display":"p","timestamp":4000000000500,"project":"/h","sessionId":")" +
+                    std::string{idUno} + "\"}\n");
+  home.escribir(".claude/sessions/1.json", R"({"pid":)" + std::to_string(::getpid()) + R"(,"sessionId":")" +
+                                               std::string{idDos} + R"(","cwd":"/v","status":"busy"})");
   auto const resultado = construir();
   ASSERT_EQ(resultado.sesiones.size(), 2);
   EXPECT_TRUE(resultado.errores.empty());
@@ -79,11 +79,11 @@ TEST_F(SessionIndexTest, juntaLasTresFuentes) {
 
 TEST_F(SessionIndexTest, losAvisosVanEnElOrdenDeLasFuentes) {
   transcripcion(idUno, "{}\n");
-  hogar.escribir(".claude/projects/q/" + std::string{idDos} + ".jsonl", "{\"cwd\":\"/x\"}\n");
+  home.escribir(".claude/projects/q/" + std::string{idDos} + ".jsonl", "{\"cwd\":\"/x\"}\n");
   std::filesystem::create_directories(
-      hogar.dentro(".claude/projects/q/33333333-aaaa-4bbb-8ccc-000000000003.jsonl"));
-  hogar.escribir(".claude/history.jsonl", "no\n");
-  hogar.escribir(".claude/sessions/1.json", "no");
+      home.dentro(".claude/projects/q/33333333-aaaa-4bbb-8ccc-000000000003.jsonl"));
+  home.escribir(".claude/history.jsonl", "no\n");
+  home.escribir(".claude/sessions/1.json", "no");
   auto const errores = construir().errores;
   ASSERT_EQ(errores.size(), 4);
   EXPECT_EQ(errores[0].fuente, IndexSource::history);
@@ -179,53 +179,53 @@ TEST_F(SessionIndexTest, sinCarpetaDelAgenteHayUnSoloAviso) {
 
 TEST_F(SessionIndexTest, elAvisoDeBienvenidaTapaLosDeLosLectores) {
   dobles::CarpetaTemporal const otra;
-  EXPECT_EQ(construir({hogar.ruta(), otra.escribir("h.jsonl", "no\n"), otra.dentro("nada"),
+  EXPECT_EQ(construir({home.ruta(), otra.escribir("h.jsonl", "no\n"), otra.dentro("nada"),
                        otra.escribir("no-es-carpeta", "")}),
             (IndexResult{{}, {bienvenida()}}));
 }
 
 TEST_F(SessionIndexTest, conLaCarpetaPresenteQuedanLosAvisosDeLosLectores) {
-  hogar.carpeta(".claude");
+  home.carpeta(".claude");
   auto const resultado = construir();
   EXPECT_TRUE(resultado.sesiones.empty());
   ASSERT_EQ(resultado.errores.size(), 2);
   EXPECT_EQ(resultado.errores[0].mensaje,
-            hogar.dentro(".claude/history.jsonl") +
+            home.dentro(".claude/history.jsonl") +
                 " does not exist. Without that file there is no reliable way to know the cwd of Claude Code "
                 "sessions.");
   EXPECT_TRUE(
-      resultado.errores[1].mensaje.starts_with("Could not list " + hogar.dentro(".claude/projects") + ": "));
+      resultado.errores[1].mensaje.starts_with("Could not list " + home.dentro(".claude/projects") + ": "));
 }
 
 TEST_F(SessionIndexTest, conSesionesEnOtraParteNoImportaQueFalteLaCarpeta) {
   dobles::CarpetaTemporal const otra;
   otra.escribir("projects/p/" + std::string{idUno} + ".jsonl", "{\"cwd\":\"/x\"}\n");
   auto const resultado = construir(
-      {hogar.ruta(), otra.escribir("h.jsonl", ""), otra.dentro("projects"), otra.dentro("sessions")});
+      {home.ruta(), otra.escribir("h.jsonl", ""), otra.dentro("projects"), otra.dentro("sessions")});
   EXPECT_EQ(resultado.sesiones.size(), 1);
   EXPECT_TRUE(resultado.errores.empty());
 }
 
 TEST_F(SessionIndexTest, unEnlaceRotoNoEsUnaCarpetaDelAgente) {
-  std::filesystem::create_symlink(hogar.dentro("nada"), hogar.dentro(".claude"));
+  std::filesystem::create_symlink(home.dentro("nada"), home.dentro(".claude"));
   EXPECT_EQ(construir(), (IndexResult{{}, {bienvenida()}}));
 }
 
 TEST_F(SessionIndexTest, unBucleDeEnlacesNoEsUnaCarpetaDelAgente) {
-  std::filesystem::create_symlink(".claude", hogar.dentro(".claude"));
+  std::filesystem::create_symlink(".claude", home.dentro(".claude"));
   EXPECT_EQ(construir(), (IndexResult{{}, {bienvenida()}}));
 }
 
 TEST_F(SessionIndexTest, unaCarpetaDelAgenteCerradaDaSusAvisosYNoElDeBienvenida) {
   transcripcion(idUno, "{\"cwd\":\"/x\"}\n");
-  hogar.escribir(".claude/history.jsonl", "");
-  hogar.carpeta(".claude/sessions");
-  std::filesystem::permissions(hogar.dentro(".claude"), std::filesystem::perms::none);
+  home.escribir(".claude/history.jsonl", "");
+  home.carpeta(".claude/sessions");
+  std::filesystem::permissions(home.dentro(".claude"), std::filesystem::perms::none);
   dobles::SinPrivilegios const sinPrivilegios;
   auto const errores = construir().errores;
   ASSERT_EQ(errores.size(), 2);
-  EXPECT_TRUE(errores[0].mensaje.starts_with(hogar.dentro(".claude/history.jsonl") + " does not exist. "));
-  EXPECT_EQ(errores[1].mensaje, "Could not list " + hogar.dentro(".claude/projects") + ": Permission denied");
+  EXPECT_TRUE(errores[0].mensaje.starts_with(home.dentro(".claude/history.jsonl") + " does not exist. "));
+  EXPECT_EQ(errores[1].mensaje, "Could not list " + home.dentro(".claude/projects") + ": Permission denied");
 }
 
 }  // namespace

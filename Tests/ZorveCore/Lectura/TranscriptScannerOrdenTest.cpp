@@ -90,15 +90,15 @@ std::string enCarpeta(std::string carpeta, std::string const& nombre) {
   return carpeta.append("/").append(nombre);
 }
 
-void revolver(ArchivosDespaciosos& casa) {
-  casa.carpetas["/r"] = {"p0", "p1", "p2", "p3"};
+void revolver(ArchivosDespaciosos& home) {
+  home.carpetas["/r"] = {"p0", "p1", "p2", "p3"};
   for (std::size_t p = 0; p < 4; ++p) {
     auto const proyecto = "/r/p" + std::to_string(p);
-    auto& nombres = casa.carpetas[proyecto];
+    auto& nombres = home.carpetas[proyecto];
     for (std::size_t n = 0; n < 30; ++n) {
       auto const nombre = uuid(n * 7919 % 1000 + p) + ".jsonl";
       nombres.push_back(nombre);
-      casa.entradas[enCarpeta(proyecto, nombre)] = {.texto = R"({"type":"ai-title","aiTitle":")" +
+      home.entradas[enCarpeta(proyecto, nombre)] = {.texto = R"({"type":"ai-title","aiTitle":")" +
                                                              std::to_string(n) + R"(","cwd":"/)" +
                                                              std::to_string(p) + "\"}",
                                                     .falloAlAbrir = n % 5 == 0 ? EACCES : 0,
@@ -109,24 +109,24 @@ void revolver(ArchivosDespaciosos& casa) {
 }
 
 TEST(TranscriptScannerOrden, elResultadoEsElMismoAcabeQuienAcabePrimero) {
-  ArchivosDespaciosos casa;
-  revolver(casa);
-  auto const primero = escanear(casa, "/r");
+  ArchivosDespaciosos home;
+  revolver(home);
+  auto const primero = escanear(home, "/r");
   EXPECT_THAT(primero.transcripciones, SizeIs(4 * 25));
   EXPECT_THAT(primero.errores, SizeIs(4 * (5 + 5)));
-  for (int vez = 0; vez < 1000; ++vez) ASSERT_EQ(escanear(casa, "/r"), primero) << "run " << vez;
+  for (int vez = 0; vez < 1000; ++vez) ASSERT_EQ(escanear(home, "/r"), primero) << "run " << vez;
 }
 
 TEST(TranscriptScannerOrden, losErroresYLosEmpatesEstanEnElOrdenDelListado) {
-  ArchivosDespaciosos casa;
-  revolver(casa);
-  auto const resultado = escanear(casa, "/r");
+  ArchivosDespaciosos home;
+  revolver(home);
+  auto const resultado = escanear(home, "/r");
   std::vector<std::string> esperados;
   std::vector<std::string> rutas[3];
-  for (auto const& proyecto : casa.carpetas.at("/r")) {
-    for (auto const& nombre : casa.carpetas.at("/r/" + proyecto)) {
+  for (auto const& proyecto : home.carpetas.at("/r")) {
+    for (auto const& nombre : home.carpetas.at("/r/" + proyecto)) {
       auto const ruta = enCarpeta(enCarpeta("/r", proyecto), nombre);
-      auto const& entrada = casa.entradas.at(ruta);
+      auto const& entrada = home.entradas.at(ruta);
       if (entrada.falloDeAtributos != 0) {
         esperados.push_back("Could not read the size or date of " + ruta);
         continue;
@@ -147,42 +147,42 @@ TEST(TranscriptScannerOrden, losErroresYLosEmpatesEstanEnElOrdenDelListado) {
 }
 
 TEST(TranscriptScannerOrden, elErrorDeUnaCarpetaEstaDondeSeHallo) {
-  ArchivosDespaciosos casa;
-  casa.carpetas["/r"] = {"p0", "cerrada", "p1"};
-  casa.carpetas["/r/p0"] = {uuid(1) + ".jsonl"};
-  casa.carpetas["/r/p1"] = {uuid(2) + ".jsonl"};
-  casa.soloAtributos.insert("/r/cerrada");
+  ArchivosDespaciosos home;
+  home.carpetas["/r"] = {"p0", "cerrada", "p1"};
+  home.carpetas["/r/p0"] = {uuid(1) + ".jsonl"};
+  home.carpetas["/r/p1"] = {uuid(2) + ".jsonl"};
+  home.soloAtributos.insert("/r/cerrada");
   for (auto const* const carpeta : {"/r/p0", "/r/p1"}) {
-    casa.entradas[enCarpeta(carpeta, casa.carpetas[carpeta].front())] = {.falloDeAtributos = EIO};
+    home.entradas[enCarpeta(carpeta, home.carpetas[carpeta].front())] = {.falloDeAtributos = EIO};
   }
-  EXPECT_THAT(mensajes(escanear(casa, "/r")),
+  EXPECT_THAT(mensajes(escanear(home, "/r")),
               testing::ElementsAre("Could not read the size or date of /r/p0/" + uuid(1) + ".jsonl",
                                    "Could not list /r/cerrada: Permission denied",
                                    "Could not read the size or date of /r/p1/" + uuid(2) + ".jsonl"));
 }
 
 TEST(TranscriptScannerOrden, losHilosSeRepartenLosArchivosYCadaUnoSeLeeUnaVez) {
-  ArchivosDespaciosos casa;
-  revolver(casa);
-  auto const deUno = escanear(casa, "/r");
-  TranscriptScanner::Escaneo escaneo{casa, "/r"};
+  ArchivosDespaciosos home;
+  revolver(home);
+  auto const deUno = escanear(home, "/r");
+  TranscriptScanner::Escaneo escaneo{home, "/r"};
   ladoALado(4, [&] { escaneo.leer(); });
   EXPECT_EQ(escaneo.reunir(), deUno);
 }
 
 TEST(LargoTranscriptScanner, cienMilTranscripcionesSeHallanTodas) {
-  ArchivosDespaciosos casa;
+  ArchivosDespaciosos home;
   for (std::size_t p = 0; p < 100; ++p) {
     auto const slug = "p" + std::to_string(p);
-    casa.carpetas["/r"].push_back(slug);
-    auto& nombres = casa.carpetas["/r/" + slug];
+    home.carpetas["/r"].push_back(slug);
+    auto& nombres = home.carpetas["/r/" + slug];
     for (std::size_t n = 0; n < 1000; ++n) {
       nombres.push_back(uuid(p * 1000 + n) + ".jsonl");
-      casa.entradas["/r/" + slug + "/" + nombres.back()] = {.texto = contenido,
+      home.entradas["/r/" + slug + "/" + nombres.back()] = {.texto = contenido,
                                                             .mtime = static_cast<double>(p * 1000 + n)};
     }
   }
-  auto const resultado = escanear(casa, "/r");
+  auto const resultado = escanear(home, "/r");
   ASSERT_THAT(resultado.transcripciones, SizeIs(100'000));
   EXPECT_THAT(resultado.errores, IsEmpty());
   for (std::size_t i = 0; i < 100'000; ++i) {

@@ -12,7 +12,7 @@
 #include <unistd.h>
 
 #include "Dobles/Saneado.h"
-#include "zorvectl/Hogar.h"
+#include "zorvectl/Home.h"
 
 namespace zorve::pruebas {
 namespace {
@@ -25,17 +25,17 @@ class LlamadasAlSistema : public testing::Test {
   void SetUp() override {
     if (saneado) GTEST_SKIP() << "a sanitizer's leak check and a tracer exclude each other";
     if (::access(strace, X_OK) != 0) GTEST_SKIP() << "strace is missing";
-    hogar.transcripcion(Hogar::uno, aiTitle("Una") + R"({"cwd":"/srv"})"
-                                                     "\n");
-    hogar.transcripcion(Hogar::dos,
-                        std::string(700'000, '\n') + R"({"cwd":"/srv"})"
-                                                     "\n",
-                        "p");
-    hogar.historia(prompt(Hogar::uno, "x", "/srv", 1'000'000));
-    hogar.viva("1.json", R"({"pid":)" + std::to_string(::getpid()) + R"(,"sessionId":")" +
-                             std::string{Hogar::uno} + R"(","cwd":"/v"})");
+    home.transcripcion(Home::uno, aiTitle("Una") + R"({"cwd":"/srv"})"
+                                                   "\n");
+    home.transcripcion(Home::dos,
+                       std::string(700'000, '\n') + R"({"cwd":"/srv"})"
+                                                    "\n",
+                       "p");
+    home.historia(prompt(Home::uno, "x", "/srv", 1'000'000));
+    home.viva("1.json", R"({"pid":)" + std::to_string(::getpid()) + R"(,"sessionId":")" +
+                            std::string{Home::uno} + R"(","cwd":"/v"})");
     for (auto const* const secreto : {"sessions/1.key", "secreto.key", "projects/p/x.key", "sessions/.key"}) {
-      hogar.carpeta().escribir(std::string{".claude/"} + secreto, "secret");
+      home.carpeta().escribir(std::string{".claude/"} + secreto, "secret");
     }
   }
 
@@ -45,8 +45,8 @@ class LlamadasAlSistema : public testing::Test {
     todo.insert(todo.end(), opciones.begin(), opciones.end());
     todo.emplace_back(ZORVECTL);
     todo.insert(todo.end(), palabras.begin(), palabras.end());
-    return dobles::correr(todo, {{"HOME", hogar.ruta()},
-                                 {"XDG_CONFIG_HOME", hogar.carpeta().dentro("conf")},
+    return dobles::correr(todo, {{"HOME", home.ruta()},
+                                 {"XDG_CONFIG_HOME", home.carpeta().dentro("conf")},
                                  {"COLUMNS", ""},
                                  {"LC_ALL", "C.UTF-8"}});
   }
@@ -57,7 +57,7 @@ class LlamadasAlSistema : public testing::Test {
     return todas;
   }
 
-  Hogar hogar;
+  Home home;
   dobles::CarpetaTemporal otra;
   std::string trazas = otra.dentro("trazas");
 };
@@ -88,7 +88,7 @@ TEST_F(LlamadasAlSistema, ningunaEscribeEnLaCarpetaDelAgenteNiAbreUnSecretoNiSal
     for (auto const& linea : lineas()) {
       EXPECT_FALSE(linea.contains("AF_INET")) << linea;
       EXPECT_FALSE(linea.contains(".key\"") || linea.contains(".key>")) << linea;
-      if (!linea.contains(hogar.ruta() + "/.claude")) continue;
+      if (!linea.contains(home.ruta() + "/.claude")) continue;
       ++bajoLaCarpeta;
       EXPECT_TRUE(soloMira(linea)) << linea;
     }
@@ -100,7 +100,7 @@ TEST_F(LlamadasAlSistema, unaLecturaInterrumpidaSigue) {
   auto const sana = trazado({"-e", "trace=pread64"}, {"list"});
   ASSERT_EQ(sana.codigo, 0);
   auto const interrumpida = trazado(
-      {"-e", "inject=pread64:error=EINTR:when=1+2", "-P", hogar.ruta() + "/.claude/history.jsonl"}, {"list"});
+      {"-e", "inject=pread64:error=EINTR:when=1+2", "-P", home.ruta() + "/.claude/history.jsonl"}, {"list"});
   EXPECT_EQ(interrumpida.salida, sana.salida);
   EXPECT_EQ(interrumpida.error, "");
   EXPECT_THAT(lineas(), testing::Contains(testing::HasSubstr("EINTR")));
@@ -111,9 +111,9 @@ TEST_F(LlamadasAlSistema, sinDescriptoresNiDiscoSeDiceEnUnaLinea) {
   EXPECT_EQ(sinDisco.codigo, 1);
   EXPECT_THAT(sinDisco.error, testing::HasSubstr("No space left on device"));
   auto const sinDescriptores =
-      trazado({"-e", "inject=openat:error=EMFILE", "-P", hogar.ruta() + "/.claude/history.jsonl"}, {"list"});
+      trazado({"-e", "inject=openat:error=EMFILE", "-P", home.ruta() + "/.claude/history.jsonl"}, {"list"});
   EXPECT_EQ(sinDescriptores.codigo, 0);
-  EXPECT_THAT(sinDescriptores.error, testing::HasSubstr("Could not open " + hogar.ruta() +
+  EXPECT_THAT(sinDescriptores.error, testing::HasSubstr("Could not open " + home.ruta() +
                                                         "/.claude/history.jsonl: Too many open files"));
   EXPECT_THAT(sinDescriptores.salida, testing::HasSubstr("Una"));
 }
@@ -125,13 +125,13 @@ std::string contenido(std::string const& archivo) {
 }
 
 TEST_F(LlamadasAlSistema, unaSenalAntesDeCualquierLlamadaDejaLosAjustesEnteros) {
-  auto const archivo = hogar.carpeta().dentro("conf/com.sarnol.zorve/preferences.json");
+  auto const archivo = home.carpeta().dentro("conf/com.sarnol.zorve/preferences.json");
   std::string const viejos = "{\"ajena\":[1,2.50]}";
   std::string const nuevos =
       "{\n  \"ajena\": [\n    1,\n    2.50\n  ],\n  \"zorve.terminalElegida\": \"xterm\"\n}\n";
   std::size_t viejosQueQuedan = 0;
   for (int cual = 1;; ++cual) {
-    hogar.carpeta().escribir("conf/com.sarnol.zorve/preferences.json", viejos);
+    home.carpeta().escribir("conf/com.sarnol.zorve/preferences.json", viejos);
     auto const corrida =
         trazado({"-e", "trace=%file,write,fsync,flock,close", "-e",
                  "inject=%file,write,fsync,flock,close:signal=TERM:when=" + std::to_string(cual)},
@@ -146,12 +146,12 @@ TEST_F(LlamadasAlSistema, unaSenalAntesDeCualquierLlamadaDejaLosAjustesEnteros) 
 }
 
 TEST_F(LlamadasAlSistema, unFalloDeCualquierLlamadaEsUnaFraseYDejaLosAjustesEnteros) {
-  auto const archivo = hogar.carpeta().dentro("conf/com.sarnol.zorve/preferences.json");
+  auto const archivo = home.carpeta().dentro("conf/com.sarnol.zorve/preferences.json");
   std::string const viejos = "{\"ajena\":1}";
-  auto const cerrojo = hogar.carpeta().dentro("conf/com.sarnol.zorve/preferences.lock");
+  auto const cerrojo = home.carpeta().dentro("conf/com.sarnol.zorve/preferences.lock");
   for (std::string const llamada : {"openat", "write", "fsync", "flock", "rename"}) {
     for (std::string const causa : {"EIO", "ENOSPC", "EMFILE"}) {
-      hogar.carpeta().escribir("conf/com.sarnol.zorve/preferences.json", viejos);
+      home.carpeta().escribir("conf/com.sarnol.zorve/preferences.json", viejos);
       std::vector<std::string> opciones{"-e", "trace=" + llamada, "-e",
                                         "inject=" + llamada + ":error=" + causa + ":when=1"};
       if (llamada == "openat") opciones.insert(opciones.end(), {"-P", archivo, "-P", cerrojo});

@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "Dobles/Saneado.h"
-#include "zorvectl/Hogar.h"
+#include "zorvectl/Home.h"
 
 namespace zorve::pruebas {
 namespace {
@@ -29,14 +29,14 @@ struct Gasto {
 
 /// Runs `zorvectl list --json` over the home, with no more address space than `limite` bytes where it is not
 /// 0.
-Gasto listar(std::string const& hogar, rlim_t limite = 0) {
+Gasto listar(std::string const& home, rlim_t limite = 0) {
   auto const hijo = ::vfork();
   if (hijo == 0) {
     if (rlimit const tope{limite, limite}; limite != 0) ::setrlimit(RLIMIT_AS, &tope);
     int const nada = ::open("/dev/null", O_RDWR);
     ::dup2(nada, 1);
     ::dup2(nada, 2);
-    ::execl(ZORVECTL, ZORVECTL, "list", "--json", "--home", hogar.c_str(), nullptr);
+    ::execl(ZORVECTL, ZORVECTL, "list", "--json", "--home", home.c_str(), nullptr);
     ::_exit(127);
   }
   Gasto gasto;
@@ -69,52 +69,52 @@ std::string repetido(std::string_view pieza, std::size_t bytes) {
 
 constexpr std::size_t mega = 1UZ << 20U;
 
-struct CasaHostil {
+struct HomeHostil {
   char const* nombre;
-  std::function<void(Hogar const&)> hacer;
+  std::function<void(Home const&)> hacer;
 };
 
-std::vector<CasaHostil> const casas{
+std::vector<HomeHostil> const homes{
     {"OchoPromptsDe50Megas",
-     [](Hogar const& hogar) {
-       std::ofstream salida{hogar.historia("")};
+     [](Home const& home) {
+       std::ofstream salida{home.historia("")};
        for (int i = 0; i < 8; ++i) salida << prompt(std::to_string(i), std::string(50 * mega, 'x'), "/p", i);
      }},
     {"CienPromptsLargosSinTranscripcion",
-     [](Hogar const& hogar) {
-       std::ofstream salida{hogar.historia("")};
+     [](Home const& home) {
+       std::ofstream salida{home.historia("")};
        for (int i = 0; i < 100; ++i)
          salida << prompt(std::to_string(i), std::string(4 * mega - 500, 'x'), "/p", i);
      }},
     {"UnaLineaDe64MegasDeNumeros",
-     [](Hogar const& hogar) { hogar.historia("{\"x\":[" + repetido("1,", 64 * mega) + "1]}"); }},
+     [](Home const& home) { home.historia("{\"x\":[" + repetido("1,", 64 * mega) + "1]}"); }},
     {"LineasDe4MegasDeNumeros",
-     [](Hogar const& hogar) {
+     [](Home const& home) {
        auto const linea = "{\"x\":[" + repetido("1,", 4 * mega - 100) + "1]}\n";
-       hogar.historia(linea + linea + linea);
+       home.historia(linea + linea + linea);
      }},
     {"LargoTranscripcionesEnlazadasDe30MegasDeNumeros",
-     [](Hogar const& hogar) {
+     [](Home const& home) {
        auto const linea = R"({"aiTitle":1,"cwd":[)" + repetido("1,", 2 * mega - 100) + "1]}\n";
-       auto const ajena = hogar.carpeta().escribir("ajena", repetido(linea, 30 * mega));
-       hogar.carpeta().carpeta(".claude/projects/p");
+       auto const ajena = home.carpeta().escribir("ajena", repetido(linea, 30 * mega));
+       home.carpeta().carpeta(".claude/projects/p");
        for (int i = 0; i < 60; ++i) {
          std::filesystem::create_symlink(
-             ajena, hogar.carpeta().dentro(".claude/projects/p/11111111-aaaa-4bbb-8ccc-0000000000" +
-                                           std::to_string(10 + i) + ".jsonl"));
+             ajena, home.carpeta().dentro(".claude/projects/p/11111111-aaaa-4bbb-8ccc-0000000000" +
+                                          std::to_string(10 + i) + ".jsonl"));
        }
      }},
     {"LargoHistoriaHuecaDe2Gigas",
-     [](Hogar const& hogar) { std::filesystem::resize_file(hogar.historia(""), 2048 * mega); }},
+     [](Home const& home) { std::filesystem::resize_file(home.historia(""), 2048 * mega); }},
     {"HistoriaDeVeinteMilSesiones",
-     [](Hogar const& hogar) {
-       std::ofstream salida{hogar.historia("")};
+     [](Home const& home) {
+       std::ofstream salida{home.historia("")};
        for (int i = 0; i < 20'000; ++i) salida << prompt(std::to_string(i), std::string(5'000, 'x'), "/p", i);
      }},
     {"RegistrosVivosDeUnMega",
-     [](Hogar const& hogar) {
+     [](Home const& home) {
        auto const lleno = "{\"x\":[" + repetido("1,", mega - 100) + "1]}";
-       for (int i = 0; i < 50; ++i) hogar.viva(std::to_string(i) + ".json", lleno);
+       for (int i = 0; i < 50; ++i) home.viva(std::to_string(i) + ".json", lleno);
      }},
 };
 
@@ -128,33 +128,33 @@ class SinMemoriaAjena : public testing::Test {
 class Memoria : public SinMemoriaAjena, public testing::WithParamInterface<std::size_t> {};
 
 TEST_P(Memoria, deUnaCasaHostilNoPasaDe150Megas) {
-  Hogar const hogar;
-  hogar.transcripcion(Hogar::uno, R"({"cwd":"/srv"})"
-                                  "\n");
-  enOtroProceso([&] { casas.at(GetParam()).hacer(hogar); });
-  auto const gasto = listar(hogar.ruta());
+  Home const home;
+  home.transcripcion(Home::uno, R"({"cwd":"/srv"})"
+                                "\n");
+  enOtroProceso([&] { homes.at(GetParam()).hacer(home); });
+  auto const gasto = listar(home.ruta());
   EXPECT_EQ(gasto.estado, 0);
   EXPECT_LT(gasto.kilobytes, cimaEnKilobytes);
-  std::cout << casas.at(GetParam()).nombre << ": " << gasto.kilobytes / 1024 << " MiB at most\n";
+  std::cout << homes.at(GetParam()).nombre << ": " << gasto.kilobytes / 1024 << " MiB at most\n";
 }
 
-INSTANTIATE_TEST_SUITE_P(Zorvectl, Memoria, testing::Range(std::size_t{0}, casas.size()),
-                         [](auto const& una) { return std::string{casas.at(una.param).nombre}; });
+INSTANTIATE_TEST_SUITE_P(Zorvectl, Memoria, testing::Range(std::size_t{0}, homes.size()),
+                         [](auto const& una) { return std::string{homes.at(una.param).nombre}; });
 
 TEST_F(SinMemoriaAjena, laMemoriaQueFaltaNuncaLoTiraAbajo) {
-  Hogar const hogar;
+  Home const home;
   std::string historia;
   for (int i = 0; i < 200; ++i) {
     auto const id = "11111111-aaaa-4bbb-8ccc-000000000" + std::to_string(100 + i);
-    hogar.transcripcion(id, R"({"cwd":"/srv"})"
-                            "\n" +
-                                std::string(300'000, '\n') + aiTitle("t"));
+    home.transcripcion(id, R"({"cwd":"/srv"})"
+                           "\n" +
+                               std::string(300'000, '\n') + aiTitle("t"));
     historia += prompt(id, std::string(20'000, 'x'), "/p", i);
   }
-  hogar.historia(historia);
+  home.historia(historia);
   int terminadas = 0;
   for (rlim_t const megas : {8UZ, 10UZ, 14UZ, 20UZ, 30UZ, 50UZ, 80UZ, 120UZ}) {
-    auto const gasto = listar(hogar.ruta(), megas << 20U);
+    auto const gasto = listar(home.ruta(), megas << 20U);
     EXPECT_FALSE(WIFSIGNALED(gasto.estado) && WTERMSIG(gasto.estado) == SIGABRT) << megas << " MiB";
     EXPECT_FALSE(WIFSIGNALED(gasto.estado) && WTERMSIG(gasto.estado) == SIGSEGV) << megas << " MiB";
     terminadas += WIFEXITED(gasto.estado) && WEXITSTATUS(gasto.estado) == 0 ? 1 : 0;

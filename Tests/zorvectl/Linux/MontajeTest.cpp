@@ -14,7 +14,7 @@
 #include "ZorvePlatform/Posix/ArchivosPosix.h"
 #include "ZorvePlatform/Posix/VidaDeProcesosPosix.h"
 #include "ZorvePlatform/ServiciosDeTerminal.h"
-#include "zorvectl/Hogar.h"
+#include "zorvectl/Home.h"
 
 namespace zorve::pruebas {
 namespace {
@@ -51,24 +51,24 @@ class EntornoPrestado {
 class Montaje : public testing::Test {
  protected:
   Montaje() {
-    std::filesystem::permissions(hogar.carpeta().escribir("bin/xterm", "#!/bin/sh\n"),
+    std::filesystem::permissions(home.carpeta().escribir("bin/xterm", "#!/bin/sh\n"),
                                  std::filesystem::perms{0755});
-    hogar.transcripcion(Hogar::uno, R"({"type":"user","cwd":"/srv/uno"})"
-                                    "\n" +
-                                        aiTitle("Una"));
+    home.transcripcion(Home::uno, R"({"type":"user","cwd":"/srv/uno"})"
+                                  "\n" +
+                                      aiTitle("Una"));
   }
 
   [[nodiscard]] std::string deZorvectl(std::vector<std::string> const& palabras) const {
-    auto const corrida = hogar.zorvectl(palabras, entorno);
+    auto const corrida = home.zorvectl(palabras, entorno);
     EXPECT_EQ(corrida.codigo, 0) << corrida.error;
     return corrida.salida;
   }
 
-  Hogar hogar;
-  std::map<std::string, std::string> entorno{{"XDG_CONFIG_HOME", hogar.ruta() + "/config"},
-                                             {"XDG_DATA_HOME", hogar.ruta() + "/datos"},
-                                             {"XDG_DATA_DIRS", hogar.ruta() + "/comunes"},
-                                             {"PATH", hogar.ruta() + "/bin"}};
+  Home home;
+  std::map<std::string, std::string> entorno{{"XDG_CONFIG_HOME", home.ruta() + "/config"},
+                                             {"XDG_DATA_HOME", home.ruta() + "/datos"},
+                                             {"XDG_DATA_DIRS", home.ruta() + "/comunes"},
+                                             {"PATH", home.ruta() + "/bin"}};
   EntornoPrestado const prestado{entorno};
   ArchivosPosix archivos;
   VidaDeProcesosPosix procesos;
@@ -76,8 +76,8 @@ class Montaje : public testing::Test {
   dobles::PortapapelesDePrueba portapapeles;
   dobles::InicioDePrueba inicio;
   dobles::DespachadorInmediato despachador;
-  ServiciosDeTerminal servicios = serviciosDeTerminal(hogar.ruta());
-  Interfaz interfaz{{.home = hogar.ruta(),
+  ServiciosDeTerminal servicios = serviciosDeTerminal(home.ruta());
+  Interfaz interfaz{{.home = home.ruta(),
                      .archivos = archivos,
                      .procesos = procesos,
                      .servicios = servicios.apertura,
@@ -95,7 +95,7 @@ TEST_F(Montaje, elPanelCorreLoQueZorvectlPlanea) {
   auto const llamadas = ejecutor.llamadas();
   ASSERT_EQ(llamadas.size(), 1U);
   EXPECT_EQ(llamadas[0][0], rutaDelAyudante());
-  auto const plan = deZorvectl({"plan", std::string{Hogar::uno}, "--json"});
+  auto const plan = deZorvectl({"plan", std::string{Home::uno}, "--json"});
   std::string esperado = R"({"comandos":[{"ejecutable":")" + llamadas[0][0] + R"(","args":[)";
   for (std::size_t i = 1; i < llamadas[0].size(); ++i) {
     esperado += (i == 1 ? "\"" : ",\"") + llamadas[0][i] + "\"";
@@ -115,11 +115,11 @@ TEST_F(Montaje, losAjustesMarcanLaQueZorvectlElige) {
 }
 
 TEST_F(Montaje, ambosHablanConLasVocesDeAqui) {
-  std::filesystem::remove_all(hogar.ruta() + "/.claude");
+  std::filesystem::remove_all(home.ruta() + "/.claude");
   interfaz.panel.aparecer();
   auto const banda = interfaz.panel.banda();
   ASSERT_FALSE(banda.empty());
-  auto const lista = hogar.zorvectl({"list"}, entorno);
+  auto const lista = home.zorvectl({"list"}, entorno);
   EXPECT_EQ(lista.error, banda[0].texto + "\n");
 }
 

@@ -18,10 +18,10 @@ constexpr char const* preguntarSinTty =
     "\"$2\" open 111 --home \"$1\" --terminal com.apple.Terminal\n";
 
 TEST_F(ZorvectlPlan, unaVivaSinTtyNoSePuedeEnfocar) {
-  conSesion(Hogar::uno, "/v");
+  conSesion(Home::uno, "/v");
   auto const corrida = dobles::correr({"/usr/bin/setsid", "--wait", "/bin/sh", "-c", preguntarSinTty, "sh",
-                                       hogar.ruta(), ZORVECTL, std::string{Hogar::uno}},
-                                      {{"HOME", hogar.ruta()}});
+                                       home.ruta(), ZORVECTL, std::string{Home::uno}},
+                                      {{"HOME", home.ruta()}});
   std::string const frase =
       "The session is alive but has no controlling terminal; there is nowhere to focus.\n";
   EXPECT_EQ(corrida.salida, "{\"noSePuedeEnfocar\":null}\n" + frase);
@@ -45,9 +45,9 @@ TEST_F(ZorvectlPlan, siLaEleccionNoEstaInstaladaElFalloLoDice) {
 }
 
 TEST_F(ZorvectlPlan, unosAjustesDanadosSeDicenYNoCuentan) {
-  hogar.carpeta().escribir(".config/com.sarnol.zorve/preferences.json", "roto");
+  home.carpeta().escribir(".config/com.sarnol.zorve/preferences.json", "roto");
   auto const corrida = zorvectl({"plan", "--cwd", "/", "--command", "x"});
-  EXPECT_THAT(corrida.error, StartsWith("zorvectl: Zorve cannot use its settings in " + hogar.ruta()));
+  EXPECT_THAT(corrida.error, StartsWith("zorvectl: Zorve cannot use its settings in " + home.ruta()));
 }
 
 TEST_F(ZorvectlOpen, unProgramaQueNoSePuedeLanzarSeDiceComoEnElPanel) {
@@ -57,8 +57,8 @@ TEST_F(ZorvectlOpen, unProgramaQueNoSePuedeLanzarSeDiceComoEnElPanel) {
 
 TEST_F(ZorvectlOpen, unAyudanteQueFallaSeDiceConSuCodigoYSuSalida) {
   auto const corrida =
-      hogar.zorvectl({"open", "--cwd", "/no/hay/tal", "--command", "x", "--terminal", "xterm"},
-                     {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}});
+      home.zorvectl({"open", "--cwd", "/no/hay/tal", "--command", "x", "--terminal", "xterm"},
+                    {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}});
   EXPECT_EQ(corrida.codigo, 1);
   EXPECT_EQ(corrida.salida, "");
   EXPECT_THAT(corrida.error, HasSubstr("/zorve-terminal exited with code "));
@@ -67,7 +67,7 @@ TEST_F(ZorvectlOpen, unAyudanteQueFallaSeDiceConSuCodigoYSuSalida) {
 TEST_F(ZorvectlOpen, quienNoQuiereSaberDeSusHijosTambienSeEnteraDelFallo) {
   auto const corrida = dobles::correr({"/usr/bin/env", "--ignore-signal=CHLD", ZORVECTL, "open", "--cwd", "/",
                                        "--command", "x", "--terminal", "xterm"},
-                                      {{"HOME", hogar.ruta()}, {"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}});
+                                      {{"HOME", home.ruta()}, {"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}});
   EXPECT_EQ(corrida.codigo, 1);
   EXPECT_THAT(corrida.error, HasSubstr("/zorve-terminal exited with code "));
 }

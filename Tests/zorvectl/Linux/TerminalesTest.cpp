@@ -8,7 +8,7 @@
 #include <iterator>
 
 #include "Dobles/SinPrivilegios.h"
-#include "zorvectl/Hogar.h"
+#include "zorvectl/Home.h"
 
 namespace zorve::pruebas {
 namespace {
@@ -23,14 +23,14 @@ class ZorvectlTerminales : public testing::Test {
  protected:
   [[nodiscard]] dobles::Corrida zorvectl(std::vector<std::string> const& palabras,
                                          std::map<std::string, std::string> entorno = {}) const {
-    entorno.insert({{"XDG_CONFIG_HOME", hogar.ruta() + "/config"},
-                    {"XDG_DATA_HOME", hogar.ruta() + "/datos"},
-                    {"XDG_DATA_DIRS", hogar.ruta() + "/comunes"},
-                    {"PATH", hogar.ruta() + "/bin"}});
-    return hogar.zorvectl(palabras, entorno);
+    entorno.insert({{"XDG_CONFIG_HOME", home.ruta() + "/config"},
+                    {"XDG_DATA_HOME", home.ruta() + "/datos"},
+                    {"XDG_DATA_DIRS", home.ruta() + "/comunes"},
+                    {"PATH", home.ruta() + "/bin"}});
+    return home.zorvectl(palabras, entorno);
   }
   void instalar(std::string const& programa) const {
-    std::filesystem::permissions(hogar.carpeta().escribir("bin/" + programa, "#!/bin/sh\n"),
+    std::filesystem::permissions(home.carpeta().escribir("bin/" + programa, "#!/bin/sh\n"),
                                  std::filesystem::perms{0755});
   }
   [[nodiscard]] std::string ajustes() const {
@@ -38,8 +38,8 @@ class ZorvectlTerminales : public testing::Test {
     return {std::istreambuf_iterator<char>{entrada}, {}};
   }
 
-  Hogar hogar;
-  std::string archivo = hogar.ruta() + "/config/com.sarnol.zorve/preferences.json";
+  Home home;
+  std::string archivo = home.ruta() + "/config/com.sarnol.zorve/preferences.json";
 };
 
 TEST_F(ZorvectlTerminales, chooseGuardaElIdentificadorDeLaConocida) {
@@ -52,8 +52,8 @@ TEST_F(ZorvectlTerminales, chooseGuardaElIdentificadorDeLaConocida) {
 }
 
 TEST_F(ZorvectlTerminales, chooseAutoOlvidaLaEleccionYNadaMas) {
-  hogar.carpeta().escribir("config/com.sarnol.zorve/preferences.json",
-                           R"({"zorve.terminalElegida":"xterm","otra":1})");
+  home.carpeta().escribir("config/com.sarnol.zorve/preferences.json",
+                          R"({"zorve.terminalElegida":"xterm","otra":1})");
   auto const corrida = zorvectl({"choose", "--auto"});
   EXPECT_EQ(corrida.codigo, 0);
   EXPECT_EQ(corrida.salida, "Zorve picks the terminal from now on.\n");
@@ -82,7 +82,7 @@ TEST_F(ZorvectlTerminales, chooseNecesitaUnaSolaCosa) {
 }
 
 TEST_F(ZorvectlTerminales, chooseDiceQuePasaSiNoPuedeGuardar) {
-  auto const carpeta = hogar.carpeta().carpeta("config");
+  auto const carpeta = home.carpeta().carpeta("config");
   ASSERT_EQ(::chmod(carpeta.c_str(), 0555), 0);
   dobles::SinPrivilegios const comoCualquiera;
   auto const corrida = zorvectl({"choose", "xterm"});
@@ -94,7 +94,7 @@ TEST_F(ZorvectlTerminales, chooseDiceQuePasaSiNoPuedeGuardar) {
 }
 
 TEST_F(ZorvectlTerminales, chooseNoTocaUnosAjustesDanados) {
-  hogar.carpeta().escribir("config/com.sarnol.zorve/preferences.json", "roto");
+  home.carpeta().escribir("config/com.sarnol.zorve/preferences.json", "roto");
   EXPECT_EQ(zorvectl({"choose", "xterm"}).codigo, 1);
   EXPECT_EQ(ajustes(), "roto");
 }
@@ -119,7 +119,7 @@ TEST_F(ZorvectlTerminales, elJsonDiceLaElegidaYPorQue) {
 TEST_F(ZorvectlTerminales, laTerminalDelSistemaSeMuestraConQuienLoDice) {
   instalar("foot");
   instalar("kitty");
-  hogar.carpeta().escribir("config/kdeglobals", "[General]\nTerminalApplication=foot\n");
+  home.carpeta().escribir("config/kdeglobals", "[General]\nTerminalApplication=foot\n");
   auto const corrida = zorvectl({"terminals"});
   EXPECT_THAT(corrida.salida, HasSubstr("sessions open here: the system's terminal (kdeglobals)\n"));
   EXPECT_THAT(zorvectl({"terminals", "--json"}).salida,
@@ -169,7 +169,7 @@ TEST_F(ZorvectlTerminales, unaEleccionDesinstaladaSeMuestraConSuMensaje) {
 
 TEST_F(ZorvectlTerminales, unosAjustesDanadosSeDicenEnLosDosFormatos) {
   instalar("xterm");
-  hogar.carpeta().escribir("config/com.sarnol.zorve/preferences.json", "[]");
+  home.carpeta().escribir("config/com.sarnol.zorve/preferences.json", "[]");
   EXPECT_THAT(zorvectl({"terminals"}).error,
               StartsWith("launcher: Zorve cannot use its settings in " + archivo));
   EXPECT_THAT(zorvectl({"terminals", "--json"}).salida,

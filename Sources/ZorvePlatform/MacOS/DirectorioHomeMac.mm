@@ -1,4 +1,4 @@
-#include "ZorvePlatform/MacOS/DirectorioHogarMac.h"
+#include "ZorvePlatform/MacOS/DirectorioHomeMac.h"
 
 #import <Foundation/Foundation.h>
 
@@ -6,7 +6,7 @@
 
 namespace zorve {
 
-std::string directorioHogarMac() {
+std::string directorioHomeMac() {
   @autoreleasepool {
     return textoDe(NSFileManager.defaultManager.homeDirectoryForCurrentUser.path);
   }

@@ -6,7 +6,7 @@
 #include <numeric>
 #include <string>
 
-#include "Carga/CasaGrande.h"
+#include "Carga/HomeGrande.h"
 #include "Carga/Recursos.h"
 #include "ZorveCore/Lectura/SessionIndex.h"
 #include "ZorvePlatform/Posix/ArchivosPosix.h"
@@ -22,15 +22,15 @@ constexpr int lecturas = 8;
 /// What the allocator may keep more after the last reading than after the second.
 constexpr std::int64_t crecidaComoMucho = 16 * 1024;
 
-TEST(LargoCasaEnorme, seLeeEnteraVezTrasVezEnLaMismaMemoria) {
-  CasaGrande const casa;
-  for (std::size_t n = 0; n < transcripciones; ++n) casa.transcripcion(n, "Session " + std::to_string(n));
-  auto const prompts = casa.historia(transcripciones, unGiga, 900);
-  for (std::size_t n = 0; n < registros; ++n) casa.viva(n * 7);
+TEST(LargoHomeEnorme, seLeeEnteraVezTrasVezEnLaMismaMemoria) {
+  HomeGrande const home;
+  for (std::size_t n = 0; n < transcripciones; ++n) home.transcripcion(n, "Session " + std::to_string(n));
+  auto const prompts = home.historia(transcripciones, unGiga, 900);
+  for (std::size_t n = 0; n < registros; ++n) home.viva(n * 7);
 
   ArchivosPosix archivos;
   VidaDeProcesosPosix procesos;
-  auto const donde = SessionIndex::ubicacionesPorDefecto(casa.ruta());
+  auto const donde = SessionIndex::ubicacionesPorDefecto(home.ruta());
   Recursos segunda;
   for (int vez = 1; vez <= lecturas; ++vez) {
     auto const empieza = std::chrono::steady_clock::now();

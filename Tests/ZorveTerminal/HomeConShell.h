@@ -16,9 +16,9 @@
 namespace zorve::dobles {
 
 /// A home with a prompt that is known, and a `claude` that only the person's own shell settings find.
-class CasaConShell {
+class HomeConShell {
  public:
-  explicit CasaConShell(std::string shell) : shell_{std::move(shell)} {
+  explicit HomeConShell(std::string shell) : shell_{std::move(shell)} {
     std::string const ajustes = "PATH=\"$HOME/mis programas:$PATH\"\nPS1='LISTO> '\n";
     carpeta_.escribir(".bashrc", ajustes);
     carpeta_.escribir(".shrc", ajustes);

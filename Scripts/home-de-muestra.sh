@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Fills a folder as the home directory of somebody who works with the agent: casa-de-muestra.sh DIR PID [KIND]
+# Fills a folder as the home directory of somebody who works with the agent: home-de-muestra.sh DIR PID [KIND]
 # PID is a process that lives as long as the sessions are to count as running. KIND: "lista" (the default),
 # "avisos" (damaged lines too), "vacia" (no session), or a number of sessions.
 # shellcheck disable=SC2088 # "~" is expanded by the script itself
 set -euo pipefail
-casa=$1 pid=$2 clase=${3:-lista}
-agente=$casa/.claude
+home=$1 pid=$2 clase=${3:-lista}
+agente=$home/.claude
 mkdir -p "$agente/projects" "$agente/sessions"
 : >"$agente/history.jsonl"
 ahora=$(date +%s)
@@ -16,14 +16,14 @@ sesion() {
   local hace=$1 carpeta=$2 cuantos=$3 titulo=$4 i
   numero=$((numero + 1))
   id=$(printf '%08d-5e55-4000-8000-%012d' "$numero" "$numero")
-  carpeta=${carpeta/#CASA/$casa}
+  carpeta=${carpeta/#CASA/$home}
   for ((i = 1; i <= cuantos; i++)); do
     printf '{"display":"%s","timestamp":%d000,"project":"%s","sessionId":"%s"}\n' \
       "${titulo/#-/Why does the parser keep the first title?}" $((ahora - hace - (cuantos - i) * 60)) "$carpeta" "$id"
   done >>"$agente/history.jsonl"
   local proyecto=$agente/projects/${carpeta//\//-}
   # What lies outside the home is not ours to make: such a directory counts as gone.
-  [[ $carpeta != "$casa"/* ]] || mkdir -p "$carpeta"
+  [[ $carpeta != "$home"/* ]] || mkdir -p "$carpeta"
   mkdir -p "$proyecto"
   {
     printf '{"type":"user","cwd":"%s","sessionId":"%s"}\n' "$carpeta" "$id"
@@ -34,7 +34,7 @@ sesion() {
 
 # viva STATUS: the session made last is running.
 viva() {
-  printf '{"pid":%d,"sessionId":"%s","cwd":"%s","status":"%s"}\n' "$pid" "$id" "$casa" "$1" >"$agente/sessions/$id.json"
+  printf '{"pid":%d,"sessionId":"%s","cwd":"%s","status":"%s"}\n' "$pid" "$id" "$home" "$1" >"$agente/sessions/$id.json"
 }
 
 lista() {

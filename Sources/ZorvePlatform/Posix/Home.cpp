@@ -1,4 +1,4 @@
-#include "ZorvePlatform/Posix/Hogar.h"
+#include "ZorvePlatform/Posix/Home.h"
 
 #include <pwd.h>
 #include <unistd.h>
@@ -22,7 +22,7 @@ std::string sinBarrasAlFinal(std::string ruta) {
   return ruta;
 }
 
-std::string hogarDeLaCuenta() {
+std::string homeDeLaCuenta() {
   constexpr std::size_t espacio = 1UZ << 16U;
   std::vector<char> memoria(espacio);
   struct passwd cuenta{};
@@ -33,15 +33,15 @@ std::string hogarDeLaCuenta() {
 
 }  // namespace
 
-std::expected<std::string, std::string> hogarDelUsuario() {
+std::expected<std::string, std::string> homeDelUsuario() {
   if (auto home = variable("HOME"); esAbsoluta(home)) return sinBarrasAlFinal(std::move(home));
-  auto cuenta = hogarDeLaCuenta();
+  auto cuenta = homeDeLaCuenta();
   if (esAbsoluta(cuenta)) return sinBarrasAlFinal(std::move(cuenta));
   return std::unexpected{
       "There is no home directory: HOME is not an absolute path and the account has none."};
 }
 
-std::string hogarNombrado(std::string const& ruta) {
+std::string homeNombrado(std::string const& ruta) {
   if (esAbsoluta(ruta)) return sinBarrasAlFinal(ruta);
   std::error_code fallo;
   auto const real = std::filesystem::canonical(ruta, fallo);

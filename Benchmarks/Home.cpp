@@ -1,4 +1,4 @@
-#include "Casa.h"
+#include "Home.h"
 
 #include <algorithm>
 #include <array>
@@ -77,8 +77,8 @@ class Prosa {
 
 class Escritor {
  public:
-  Escritor(Casa const& casa, std::string raiz)
-      : casa_{casa}, raiz_{std::move(raiz)}, azar_{42}, prosa_{azar_} {}
+  Escritor(Home const& home, std::string raiz)
+      : home_{home}, raiz_{std::move(raiz)}, azar_{42}, prosa_{azar_} {}
 
   void transcripciones() {
     for (std::size_t p = 0; p < proyectos; ++p) fs::create_directories(carpeta(p));
@@ -90,10 +90,10 @@ class Escritor {
   }
 
   void historia() {
-    auto const sesiones = std::max<std::size_t>(casa_.transcripciones, 1);
+    auto const sesiones = std::max<std::size_t>(home_.transcripciones, 1);
     std::ofstream salida{raiz_ + "/.claude/history.jsonl", std::ios::binary};
-    for (std::size_t n = 0; n < casa_.lineasDeHistoria; ++n) {
-      auto const sesion = n * sesiones / casa_.lineasDeHistoria;
+    for (std::size_t n = 0; n < home_.lineasDeHistoria; ++n) {
+      auto const sesion = n * sesiones / home_.lineasDeHistoria;
       std::string linea = "{\"display\":\"";
       linea += prosa_.trozo(azar_, 60 + azar_() % 240);
       linea += "\",\"pastedContents\":{},\"timestamp\":" +
@@ -114,15 +114,15 @@ class Escritor {
   }
 
   [[nodiscard]] std::vector<std::size_t> largos() {
-    auto const cuantas = static_cast<double>(casa_.transcripciones);
-    std::vector<double> pesos(casa_.transcripciones, 1.0);
-    if (!casa_.iguales) std::ranges::generate(pesos, [this] { return std::exp(dispersion * normal(azar_)); });
+    auto const cuantas = static_cast<double>(home_.transcripciones);
+    std::vector<double> pesos(home_.transcripciones, 1.0);
+    if (!home_.iguales) std::ranges::generate(pesos, [this] { return std::exp(dispersion * normal(azar_)); });
     double suma = 0;
     for (auto const peso : pesos) suma += peso;
     std::vector<std::size_t> largos;
     for (auto const peso : pesos) {
-      auto const largo = peso / suma * static_cast<double>(casa_.bytes);
-      largos.push_back(static_cast<std::size_t>(casa_.iguales ? static_cast<double>(casa_.bytes) / cuantas
+      auto const largo = peso / suma * static_cast<double>(home_.bytes);
+      largos.push_back(static_cast<std::size_t>(home_.iguales ? static_cast<double>(home_.bytes) / cuantas
                                                               : std::clamp(largo, menor, mayor)));
     }
     return largos;
@@ -153,8 +153,8 @@ class Escritor {
 
   void transcripcion(std::size_t n, std::size_t largo) {
     texto_.clear();
-    if (casa_.forma == Forma::actual || n % 2 == 0) titulo(n, "First title");
-    if (casa_.forma == Forma::actual) {
+    if (home_.forma == Forma::actual || n % 2 == 0) titulo(n, "First title");
+    if (home_.forma == Forma::actual) {
       lineasHasta(n, largo - azar_() % std::min(largo, zonaDelTitulo));
       titulo(n, "Title");
     }
@@ -168,7 +168,7 @@ class Escritor {
     if (!salida) throw std::runtime_error("could not write " + ruta);
   }
 
-  Casa const& casa_;
+  Home const& home_;
   std::string raiz_;
   Azar azar_;
   Prosa prosa_;
@@ -177,7 +177,7 @@ class Escritor {
 
 }  // namespace
 
-std::string Casa::preparar() const {
+std::string Home::preparar() const {
   auto const ruta = std::string{ZORVE_CASAS} + "/" + nombre;
   auto const sello = ruta + "/made";
   std::string sellada;
@@ -193,7 +193,7 @@ std::string Casa::preparar() const {
   return ruta;
 }
 
-Casa casaGrande(Forma forma) {
+Home homeGrande(Forma forma) {
   return {.nombre = forma == Forma::actual ? "big-current" : "big-hard",
           .forma = forma,
           .transcripciones = 2'000,

@@ -5,6 +5,6 @@
 namespace zorve {
 
 /// The current user's home directory: absolute, without a slash at its end. Any thread.
-[[nodiscard]] std::string directorioHogarMac();
+[[nodiscard]] std::string directorioHomeMac();
 
 }  // namespace zorve

@@ -15,7 +15,7 @@ enum class Forma : std::uint8_t {
 };
 
 /// A home directory to be measured on. The same parameters always give the same bytes.
-struct Casa {
+struct Home {
   std::string nombre;
   Forma forma = Forma::actual;
   std::size_t transcripciones = 0;
@@ -30,6 +30,6 @@ struct Casa {
 };
 
 /// The home of 2,000 transcripts (1.1 GB) and 30,000 history lines.
-[[nodiscard]] Casa casaGrande(Forma forma);
+[[nodiscard]] Home homeGrande(Forma forma);
 
 }  // namespace zorve::medir

@@ -13,7 +13,7 @@
 namespace zorve::pruebas {
 
 /// A home directory in the shapes that the agent writes.
-class Hogar {
+class Home {
  public:
   static constexpr std::string_view uno = "11111111-aaaa-4bbb-8ccc-000000000001";
   static constexpr std::string_view dos = "22222222-aaaa-4bbb-8ccc-000000000002";

@@ -14,7 +14,7 @@
 namespace zorve::pruebas {
 
 /// A home of many sessions in the shapes that the agent writes, all of them numbered from 0.
-class CasaGrande {
+class HomeGrande {
  public:
   static constexpr std::size_t porCarpeta = 1000;
 
