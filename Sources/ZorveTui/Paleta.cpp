@@ -108,7 +108,7 @@ std::string_view deDieciseis(Tinta tinta, std::optional<Color> const& fondo) {
 }  // namespace
 
 double contraste(Color const& uno, Color const& otro) {
-  auto const [menor, mayor] = std::minmax(luminancia(uno), luminancia(otro));
+  auto const [menor, mayor] = std::minmax({luminancia(uno), luminancia(otro)});
   return (mayor + 0.05) / (menor + 0.05);
 }
 

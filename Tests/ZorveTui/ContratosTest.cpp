@@ -1,4 +1,5 @@
 #include <poll.h>
+#include <list>
 
 #include <memory>
 
@@ -25,7 +26,13 @@ class DeConsola {
   }
 
  private:
-  tui::DespachadorDeConsola& despachador_ = *new tui::DespachadorDeConsola;
+  /// Each is kept to the program's end, as a program keeps its one.
+  static tui::DespachadorDeConsola& nuevo() {
+    static auto& todos = *new std::list<tui::DespachadorDeConsola>;
+    return todos.emplace_back();
+  }
+
+  tui::DespachadorDeConsola& despachador_ = nuevo();
 };
 
 INSTANTIATE_TYPED_TEST_SUITE_P(DeConsola, DespachadorContrato, ::testing::Types<DeConsola>);
