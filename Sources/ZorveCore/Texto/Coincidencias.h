@@ -35,6 +35,6 @@ inline constexpr std::size_t largoConMarcas = 4096;
                                            ReglaDePlegado regla);
 
 /// Bytes of a prompt that are looked through.
-inline constexpr std::size_t largoDelPrompt = 64 * 1024;
+inline constexpr std::size_t largoDelPrompt = std::size_t{64} * 1024;
 
 }  // namespace zorve
