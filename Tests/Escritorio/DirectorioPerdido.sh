@@ -2,6 +2,8 @@
 # A session whose directory is gone: its row says so, and opening it says so and starts no terminal.
 # shellcheck source=Tests/Escritorio/comun.sh
 . "$(dirname "${BASH_SOURCE[0]}")/comun.sh"
+awk '$5 == "/" { hay = 1 } END { exit !hay }' /proc/self/mountinfo ||
+  salta "the root here is no mount of its own (a chroot): of no directory is it known whether it is gone"
 # shellcheck source=Tests/Escritorio/comun-gustos.sh
 . "$aqui/comun-gustos.sh"
 escritorio lista
