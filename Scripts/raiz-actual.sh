@@ -21,7 +21,7 @@ mkdir -p "$registros" "$raiz"
 
 desmonta() {
   local punto
-  for punto in "$raiz/dev" "$raiz/proc"; do
+  for punto in "$raiz/dev" "$raiz/proc" "$raiz"; do
     if mountpoint -q "$punto"; then umount -R -l "$punto"; fi
   done
 }
@@ -62,6 +62,8 @@ corre() {
 }
 
 hazla
+# The root as a mount of its own, as a machine's is: of what no mount is known for, no directory counts as gone.
+mount --bind "$raiz" "$raiz"
 mount --rbind /dev "$raiz/dev"
 mount --make-rslave "$raiz/dev"
 mount -t proc proc "$raiz/proc"

@@ -6,7 +6,7 @@ aqui=$(realpath "$(dirname "${BASH_SOURCE[0]}")")
 guardados=$aqui/../Datos/retratos
 tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
-peor=0.02
+peor=0.025
 mal=0
 
 # retrato NAME ARGUMENTS...: retrato.sh's, from KIND on.
